@@ -1,0 +1,28 @@
+#pragma once
+
+#include <array>
+#include <cstdint>
+#include <span>
+
+namespace tombolario {
+
+class UniformSource;
+
+inline constexpr int kValues = 13;
+inline constexpr int kSuits = 4;
+inline constexpr int kPack = kValues * kSuits;
+
+/// What is drawn on a card of each value, 0 to 12: the ace has the lowest number.
+inline constexpr std::array<const char*, kValues> kValueNames{"A", "2", "3",  "4", "5", "6", "7",
+                                                              "8", "9", "10", "J", "Q", "K"};
+
+/// Fills the tables from card number to value (0 to 12) and suit (1 to 4); both have at least 52 entries,
+/// those beyond are left alone.
+void fillCardTables(std::span<std::int16_t> values, std::span<std::int16_t> suits);
+
+/// The shuffle of every game: fills slots first to last (both counted) with distinct numbers of 0 to
+/// n - 1, drawing a slot again while an earlier one from first on holds the same number. n must be at
+/// least the number of slots. Slots outside are left alone.
+void mescola(UniformSource& uniform, std::span<std::int16_t> slots, int first, int last, int n);
+
+}  // namespace tombolario

@@ -1,0 +1,35 @@
+#pragma once
+
+#include <array>
+#include <cassert>
+#include <cstddef>
+#include <utility>
+
+namespace tombolario {
+
+/// A row of controls of one kind that share a name, numbered First to Last.
+template <class Kind, int First, int Last>
+class ControlArray {
+ public:
+  /// Makes each control in place by `make(index)`, which returns it by value.
+  template <class Make>
+  explicit ControlArray(Make make) : ControlArray(make, std::make_index_sequence<kCount>()) {}
+
+  Kind& operator[](int index) {
+    assert(index >= First && index <= Last);
+    return controls_[static_cast<std::size_t>(index - First)];
+  }
+
+  auto begin() { return controls_.begin(); }
+  auto end() { return controls_.end(); }
+
+ private:
+  static constexpr std::size_t kCount = Last - First + 1;
+
+  template <class Make, std::size_t... I>
+  ControlArray(Make& make, std::index_sequence<I...>) : controls_{{make(First + static_cast<int>(I))...}} {}
+
+  std::array<Kind, kCount> controls_;
+};
+
+}  // namespace tombolario

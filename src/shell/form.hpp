@@ -1,0 +1,58 @@
+#pragma once
+
+#include <string_view>
+#include <vector>
+
+#include "shell/control.hpp"
+
+namespace tombolario {
+
+/// The window: it owns no control, but knows them all, brings the mouse to them and draws them.
+///
+/// A mouse event goes to the topmost control on view under the mouse; a disabled one takes it and does
+/// nothing. A press captures the mouse until every button is released, also when the captured control
+/// is hidden meanwhile: it then gets nothing any more, and nor does what came into its place. A click is
+/// a press and a release of the left button inside the same control.
+class Form : public Control {
+ public:
+  Form(Name name, Box box, Colour back, std::string caption);
+
+  /// Points are in twips of the window and may lie outside it.
+  void mouseMove(Point point);
+  /// A second press of a button that is already down, and a release of one that is not, do nothing.
+  void mouseDown(MouseButton button);
+  void mouseUp(MouseButton button);
+
+  /// The cursor to show now; none is the system's arrow.
+  PictureId cursor();
+  /// Whether the left button holds the control down at this moment.
+  bool holdsDown(const Control& control) const { return &control == sunken_; }
+
+  /// True from a change that can be seen until the next drawing.
+  bool needsDrawing() const { return needsDrawing_; }
+  void redraw() { needsDrawing_ = true; }
+  void draw(Painter& painter);
+
+  /// The control of that name, as `Command8` or `Pict(3)`, the window itself too; null if there is none.
+  Control* find(std::string_view wanted);
+  /// Every control but the window, in the order in which they were made.
+  const std::vector<Control*>& controls() const { return controls_; }
+  /// A new control; its name must be its own.
+  void enrol(Control& control) { controls_.push_back(&control); }
+
+ private:
+  void draw(Painter& painter, const Rect& bounds) const override;
+  Control* underMouse();
+  Control* target();
+  void updateSunken();
+
+  std::vector<Control*> controls_;
+  Point mouse_{-1, -1};
+  unsigned held_ = 0;            // a bit for each button that is down
+  Control* captured_ = nullptr;  // what was under the first press; null outside the window
+  Control* armed_ = nullptr;     // where the left button went down
+  Control* sunken_ = nullptr;    // armed, with the mouse over it
+  bool needsDrawing_ = true;
+};
+
+}  // namespace tombolario
