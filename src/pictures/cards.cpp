@@ -1,0 +1,71 @@
+#include "shell/cards.hpp"
+
+#include <array>
+#include <cmath>
+#include <numbers>
+
+#include "pictures/catalogue.hpp"
+#include "pictures/lettering.hpp"
+
+namespace tombolario::pictures {
+
+namespace {
+
+/// A flat card in the colour of its suit, its value large in the middle.
+void drawCard(Painter& painter, int card, Size size, const std::array<Rgb, kSuits>& suits, Rgb ink) {
+  const Rect all{0, 0, static_cast<double>(size.width), static_cast<double>(size.height)};
+  painter.fillRect(all, suits.at(static_cast<std::size_t>(card / kValues)));
+  fittedText(painter, all.inset(size.width * 0.08), kValueNames.at(static_cast<std::size_t>(card % kValues)),
+             lettering(size.height * 0.36), ink);
+}
+
+constexpr int kJoker = kPack;
+constexpr Size kVideoPokerCard{70, 92};
+constexpr Size kJokerCard{70, 93};
+constexpr std::array<Rgb, kSuits> kVideoPokerSuits{kRed, kYellow, 0x00E8E8, kGreen};
+
+/// A ball of many gores that meet a little above its middle, with a light on it.
+void drawBall(Painter& painter, Vec centre, double radius) {
+  constexpr std::array<Rgb, 8> kGores{kRed, 0xFF8040, kYellow, kGreen, 0x00E8E8, kBlue, 0x8000FF, 0xFF00FF};
+  constexpr int kSteps = 6;
+  const double outline = radius + 1;
+  painter.fillEllipse({centre.x - outline, centre.y - outline, 2 * outline, 2 * outline}, kBlack);
+  const Vec pole{centre.x - radius * 0.2, centre.y - radius * 0.25};
+  for (std::size_t gore = 0; gore < kGores.size(); ++gore) {
+    std::array<Vec, kSteps + 2> points{pole};
+    for (int step = 0; step <= kSteps; ++step) {
+      const double turn = (static_cast<double>(gore) + step * 1.0 / kSteps) / kGores.size();
+      const double angle = 2 * std::numbers::pi * turn;
+      points.at(static_cast<std::size_t>(step) + 1) = {centre.x + radius * std::cos(angle),
+                                                       centre.y + radius * std::sin(angle)};
+    }
+    painter.fillPolygon(points, kGores.at(gore));
+  }
+  const double light = radius * 0.24;
+  painter.fillEllipse({pole.x - light, pole.y - light, 2 * light, 2 * light}, kWhite);
+}
+
+void drawJoker(Painter& painter) {
+  const Rect all{0, 0, kJokerCard.width, kJokerCard.height};
+  painter.fillRect(all, kWhite);
+  painter.outlineRect(all, 0xFF8040, 5);
+  fittedText(painter, {9, 11, 52, 20}, "Joker", lettering(12), kBlack);
+  drawBall(painter, {35, 58}, 21);
+}
+
+}  // namespace
+
+const PictureStore Picture1{"Picture1",
+                            0,
+                            kPack + 1,
+                            true,
+                            [](int card) { return card == kJoker ? kJokerCard : kVideoPokerCard; },
+                            [](Painter& painter, int card) {
+                              if (card == kJoker) {
+                                drawJoker(painter);
+                              } else {
+                                drawCard(painter, card, kVideoPokerCard, kVideoPokerSuits, kBlack);
+                              }
+                            }};
+
+}  // namespace tombolario::pictures

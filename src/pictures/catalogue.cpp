@@ -1,0 +1,27 @@
+#include "pictures/catalogue.hpp"
+
+#include <array>
+
+namespace tombolario::pictures {
+
+namespace {
+
+constexpr std::array kStores{&commpr,   &Picture3,      &Picture4, &Label13,  &Label4,   &Label9,
+                             &Picture1, &Pictcomvidpok, &segn,     &CONTPOK1, &CONTPOK2, &SALVPOK1,
+                             &SALVPOK2, &striscie,      &INICAT,   &CoNTCAT,  &FINECA};
+
+}  // namespace
+
+std::span<const PictureStore* const> catalogue() { return kStores; }
+
+PictureId find(std::string_view name) {
+  for (const PictureStore* store : kStores) {
+    for (int i = 0; i < store->count; ++i) {
+      const PictureId picture(*store, store->first + i);
+      if (picture.name() == name) return picture;
+    }
+  }
+  return {};
+}
+
+}  // namespace tombolario::pictures

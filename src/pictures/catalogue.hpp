@@ -1,0 +1,26 @@
+#pragma once
+
+#include <span>
+
+#include "shell/picture.hpp"
+
+/// Every picture of the room, by the name of the store that holds it and its index there. All are drawn
+/// by code at their own size in pixels, so that they stay sharp at any scale.
+namespace tombolario::pictures {
+
+// The main menu; the last three are cursors.
+extern const PictureStore commpr, Picture3, Picture4, Label13, Label4, Label9;
+// The packs of cards.
+extern const PictureStore Picture1;
+// Video poker.
+extern const PictureStore Pictcomvidpok, segn, CONTPOK1, CONTPOK2, SALVPOK1, SALVPOK2, striscie;
+// The chain game.
+extern const PictureStore INICAT, CoNTCAT, FINECA;
+
+/// All stores, in the order above.
+std::span<const PictureStore* const> catalogue();
+
+/// The picture of that name, as `Picture1(12)` or `CONTPOK1`; no picture if there is none.
+PictureId find(std::string_view name);
+
+}  // namespace tombolario::pictures

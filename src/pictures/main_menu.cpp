@@ -1,0 +1,39 @@
+#include <array>
+#include <string>
+
+#include "pictures/catalogue.hpp"
+#include "pictures/lettering.hpp"
+
+namespace tombolario::pictures {
+
+namespace {
+
+constexpr Size kGameSize{166, 18};
+constexpr std::array<const char*, 6> kGames{"POKER",        "VIDEOPOKER", "DOMINO",
+                                            "DOMINO/POKER", "RAMINO",     "MAHJONGG"};
+
+/// The number of the game at the left, then its name, white on red.
+void drawGame(Painter& painter, int index) {
+  painter.fillRect({0, 0, kGameSize.width, kGameSize.height}, kRed);
+  const Font font = lettering(11);
+  painter.text({12, 0, 20, kGameSize.height}, std::to_string(index), font, kWhite, Align::Left);
+  fittedText(painter, {40, 0, kGameSize.width - 46, kGameSize.height},
+             kGames.at(static_cast<std::size_t>(index - 1)), font, kWhite, Align::Left);
+}
+
+/// A red diamond on white, in a black border.
+void drawDiamond(Painter& painter, int) {
+  painter.fillRect({0, 0, 100, 100}, kWhite);
+  painter.outlineRect({0, 0, 100, 100}, kBlack, 3);
+  painter.fillPolygon(std::array<Vec, 4>{Vec{50, 12}, Vec{88, 50}, Vec{50, 88}, Vec{12, 50}}, kRed);
+}
+
+constexpr Size kOrnamentSize{100, 100};
+
+}  // namespace
+
+const PictureStore commpr{"commpr", 1, 6, true, [](int) { return kGameSize; }, drawGame};
+const PictureStore Picture3{"Picture3", 0, 1, false, [](int) { return kOrnamentSize; }, drawDiamond};
+const PictureStore Picture4{"Picture4", 0, 1, false, [](int) { return kOrnamentSize; }, drawDiamond};
+
+}  // namespace tombolario::pictures
