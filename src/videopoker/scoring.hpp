@@ -1,0 +1,57 @@
+#pragma once
+
+#include <array>
+#include <cstdint>
+
+namespace tombolario::videopoker {
+
+inline constexpr int kHandSize = 5;
+inline constexpr int kRows = 11;
+
+/// The joker takes the place of one card when a hand is scored.
+inline constexpr std::int16_t kJokerValue = 14;
+inline constexpr std::int16_t kJokerSuit = 5;
+
+/// The rows of the pay table, from the worthless hand to five alike.
+enum Row {
+  kNothing,
+  kPair,
+  kTwoPairs,
+  kThree,
+  kStraight,
+  kFull,
+  kFlush,
+  kRedFlush,
+  kFour,
+  kStraightFlush,
+  kFive
+};
+
+/// What each row adds to the balance.
+inline constexpr std::array<std::int16_t, kRows> kPay{-1, 0, 2, 4, 5, 7, 8, 10, 12, 15, 18};
+
+/// Values (0 to 12, the ace 0; the joker 14) and suits (1 to 4; the joker 5) of five cards.
+struct Hand {
+  std::array<std::int16_t, kHandSize> value{};
+  std::array<std::int16_t, kHandSize> suit{};
+};
+
+/// What the recognition of a hand finds.
+struct Scoring {
+  std::array<bool, kRows> lit{};           ///< the rows of the pay table; exactly one is lit
+  std::int16_t coppieVP = 0;               ///< pairs of positions with equal value, the joker's help counted
+  std::int16_t colorePariVP = 0;           ///< pairs of positions with equal suit
+  std::int16_t gruppoVP = 0;               ///< value of the one group of equal cards; 15 for a joker alone
+  std::array<std::int16_t, 2> gruppiVP{};  ///< values of the two groups of two pairs or a full house
+
+  Row row() const;
+};
+
+/// Recognises a hand. At most one of the cards is the joker.
+Scoring score(const Hand& hand);
+
+/// Which group of equal cards a position belongs to, as the table shows it.
+enum class Group { None, First, Second };
+Group groupOf(const Scoring& scoring, std::int16_t value);
+
+}  // namespace tombolario::videopoker
