@@ -1,0 +1,66 @@
+#include "room/main_menu.hpp"
+
+#include <string>
+
+namespace tombolario {
+
+namespace {
+
+/// The mouse is over one button of the row: that one alone takes the hover colour. No colour changes
+/// twice, so that a move within the button draws nothing.
+template <class Row>
+void hover(Row& row, const Control& under, Colour atRest, Colour underMouse) {
+  for (Control& button : row) button.BackColor = &button == &under ? underMouse : atRest;
+}
+
+template <class Row>
+void rest(Row& row, Colour atRest) {
+  for (Control& button : row) button.BackColor = atRest;
+}
+
+/// The mouse is at a point of the ground: what lies beside it or above or below it goes to rest. A point
+/// right on an edge still counts as inside.
+template <class Row>
+void restAwayFrom(Row& row, Point point, Colour atRest) {
+  for (Control& button : row) {
+    const bool beside = point.x < button.Left || point.x > button.Left + button.Width;
+    const bool aboveOrBelow = point.y < button.Top || point.y > button.Top + button.Height;
+    if (beside || aboveOrBelow) button.BackColor = atRest;
+  }
+}
+
+}  // namespace
+
+MainMenu::MainMenu(Form& owner, Host& host) : form(owner), host_(host) {
+  Label13.MouseIcon = pictures::Label13;
+  Label4.MouseIcon = pictures::Label4;
+  Label9.MouseIcon = pictures::Label9;
+  for (Button& button : commpr) {
+    button.onMouseMove = [this, &button](Point) { hover(commpr, button, kGameAtRest, kGameUnderMouse); };
+  }
+  for (Button& button : CLINK) {
+    button.onMouseMove = [this, &button](Point) { hover(CLINK, button, kLinkAtRest, kLinkUnderMouse); };
+  }
+  Frameprincipale.onMouseMove = [this](Point point) {
+    restAwayFrom(commpr, point, kGameAtRest);
+    restAwayFrom(CLINK, point, kLinkAtRest);
+  };
+  CLINK[1].onMouseDown = [this](MouseButton) {
+    apriMail(kMailAddress);
+    restLinks();
+  };
+  CLINK[2].onMouseDown = [this](MouseButton) {
+    GoURL(kWebAddress);
+    restLinks();
+  };
+}
+
+void MainMenu::restGames() { rest(commpr, kGameAtRest); }
+
+void MainMenu::restLinks() { rest(CLINK, kLinkAtRest); }
+
+void MainMenu::GoURL(const std::string& DestUrl) { host_.openAddress(DestUrl); }
+
+void MainMenu::apriMail(const std::string& address) { host_.openAddress("mailto:" + address); }
+
+}  // namespace tombolario
