@@ -1,0 +1,106 @@
+#pragma once
+
+#include <cstdint>
+#include <deque>
+#include <filesystem>
+#include <random>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "room/room.hpp"
+#include "shell/clock_source.hpp"
+
+namespace tombolario {
+
+/// Writes pictures to PNG files, where the build can draw at all.
+class Camera {
+ public:
+  virtual ~Camera() = default;
+  /// The scale is in device pixels to a pixel. False if the file could not be written.
+  virtual bool shoot(Form& form, const std::string& file, double scale) = 0;
+  virtual bool shoot(const PictureId& picture, const std::string& file, double scale) = 0;
+};
+
+/// Queued numbers first, then a generator with a seed of its own; the clock seeds nothing.
+class ScriptedSource : public UniformSource {
+ public:
+  void seedFromClock() override {}
+  double next() override;
+
+  void queue(const std::vector<double>& numbers) {
+    queue_.insert(queue_.end(), numbers.begin(), numbers.end());
+  }
+  std::size_t queued() const { return queue_.size(); }
+  void seed(std::int64_t seed) { engine_.seed(static_cast<std::uint64_t>(seed)); }
+
+ private:
+  std::deque<double> queue_;
+  std::mt19937_64 engine_{1};
+};
+
+/// The surroundings of a room without a window: it keeps the addresses that are handed to it.
+class ScriptedHost : public Host {
+ public:
+  explicit ScriptedHost(std::filesystem::path dataDirectory) : dataDirectory_(std::move(dataDirectory)) {}
+
+  ScriptedSource& uniform() override { return uniform_; }
+  void openAddress(const std::string& address) override { addresses.push_back(address); }
+  std::filesystem::path dataDirectory() override { return dataDirectory_; }
+
+  std::vector<std::string> addresses;
+
+ private:
+  ScriptedSource uniform_;
+  std::filesystem::path dataDirectory_;
+};
+
+/// The room by a line protocol: each command, one line, has one answer. A command that is not understood
+/// or names what is not there answers "error: ..." and changes nothing.
+class Driver {
+ public:
+  /// Without a camera the commands that write pictures answer an error.
+  explicit Driver(Camera* camera, std::filesystem::path dataDirectory = ".");
+
+  /// The answer to a command: one line, or several of which the last is "."; no line break at the end.
+  std::string answer(std::string_view line);
+  /// True once the command to end has come.
+  bool ended() const { return ended_; }
+
+  Form& form() { return room_.form(); }
+
+ private:
+  using Words = std::vector<std::string>;
+
+  std::string dispatch(const Words& words);
+  std::string queueNumbers(const Words& words);
+  std::string seed(const Words& words);
+  std::string start();
+  std::string over(const Words& words);
+  std::string at(const Words& words);
+  std::string down(const Words& words);
+  std::string up(const Words& words);
+  std::string click(const Words& words);
+  std::string scroll(const Words& words);
+  std::string screen();
+  std::string get(const Words& words);
+  std::string links();
+  std::string dump();
+  std::string shot(const Words& words);
+  std::string pictures();
+  std::string picture(const Words& words);
+  std::string quit();
+
+  Form& started();
+  Camera& camera();
+  Control& named(const std::string& name);
+  Control& namedOnView(const std::string& name);
+
+  ScriptedHost host_;
+  Room room_;
+  Camera* camera_;
+  bool started_ = false;
+  bool ended_ = false;
+};
+
+}  // namespace tombolario
