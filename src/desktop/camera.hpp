@@ -1,0 +1,20 @@
+#pragma once
+
+#include <string>
+
+#include "desktop/cairo_painter.hpp"
+#include "driver/driver.hpp"
+
+namespace tombolario {
+
+/// Takes pictures of the room as PNG files.
+class CairoCamera : public Camera {
+ public:
+  bool shoot(Form& form, const std::string& file, double scale) override;
+  bool shoot(const PictureId& picture, const std::string& file, double scale) override;
+
+ private:
+  PainterCache cache_;
+};
+
+}  // namespace tombolario

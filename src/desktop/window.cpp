@@ -1,0 +1,162 @@
+#include "desktop/window.hpp"
+
+#include <algorithm>
+#include <cmath>
+#include <stdexcept>
+
+namespace tombolario {
+
+namespace {
+
+constexpr double kUnit = kTwipsPerPixel;
+constexpr Uint32 kCairoFormat = SDL_PIXELFORMAT_RGB888;  // what Cairo calls RGB24
+
+MouseButton buttonOf(const SDL_MouseButtonEvent& event) {
+  switch (event.button) {
+    case SDL_BUTTON_RIGHT: return MouseButton::Right;
+    case SDL_BUTTON_MIDDLE: return MouseButton::Middle;
+    default: return MouseButton::Left;
+  }
+}
+
+bool isMouseButton(const SDL_MouseButtonEvent& event) {
+  return event.button == SDL_BUTTON_LEFT || event.button == SDL_BUTTON_RIGHT ||
+         event.button == SDL_BUTTON_MIDDLE;
+}
+
+/// A cursor drawn at that scale, its hot spot with it.
+Sdl<SDL_Cursor> makeCursor(const PictureId& picture, double scale, PainterCache& cache) {
+  cairo_surface_t* drawn = cache.picture(picture, scale);
+  cairo_surface_flush(drawn);
+  const int width = cairo_image_surface_get_width(drawn);
+  const int height = cairo_image_surface_get_height(drawn);
+  const Sdl<SDL_Surface> surface(
+      SDL_CreateRGBSurfaceWithFormatFrom(cairo_image_surface_get_data(drawn), width, height, 32,
+                                         cairo_image_surface_get_stride(drawn), SDL_PIXELFORMAT_ARGB8888));
+  const Vec hot = picture.store().hotSpot;
+  const auto pixel = [scale](double at, int size) {
+    return std::clamp(static_cast<int>((at + 0.5) * scale), 0, size - 1);
+  };
+  return Sdl<SDL_Cursor>(SDL_CreateColorCursor(surface.get(), pixel(hot.x, width), pixel(hot.y, height)));
+}
+
+}  // namespace
+
+Window::Window(Room& room) : form_(room.form()) {
+  // The window's own surface: nothing is gained from a graphics card here, and starting one takes long.
+  SDL_SetHint(SDL_HINT_FRAMEBUFFER_ACCELERATION, "0");
+  SDL_SetHint(SDL_HINT_VIDEO_ALLOW_SCREENSAVER, "1");
+  SDL_SetHint(SDL_HINT_VIDEO_X11_NET_WM_BYPASS_COMPOSITOR, "0");
+  SDL_SetHint(SDL_HINT_MOUSE_FOCUS_CLICKTHROUGH, "1");
+  if (SDL_Init(SDL_INIT_VIDEO) != 0) throw std::runtime_error(SDL_GetError());
+  window_.reset(SDL_CreateWindow(form_.Caption.get().c_str(), SDL_WINDOWPOS_CENTERED, SDL_WINDOWPOS_CENTERED,
+                                 form_.Width / kTwipsPerPixel, form_.Height / kTwipsPerPixel,
+                                 SDL_WINDOW_RESIZABLE | SDL_WINDOW_ALLOW_HIGHDPI));
+  if (window_ == nullptr) throw std::runtime_error(SDL_GetError());
+  SDL_SetWindowMinimumSize(window_.get(), form_.Width / kTwipsPerPixel / 3,
+                           form_.Height / kTwipsPerPixel / 3);
+  fit();
+}
+
+void Window::run() {
+  draw();
+  for (SDL_Event event; open_ && SDL_WaitEvent(&event) != 0;) {
+    do {
+      handle(event);
+    } while (open_ && SDL_PollEvent(&event) != 0);
+    if (open_ && form_.needsDrawing()) draw();
+    showCursor();
+  }
+}
+
+void Window::handle(const SDL_Event& event) {
+  switch (event.type) {
+    case SDL_QUIT: open_ = false; break;
+    case SDL_MOUSEMOTION: form_.mouseMove(place(event.motion.x, event.motion.y)); break;
+    case SDL_MOUSEBUTTONDOWN:
+    case SDL_MOUSEBUTTONUP:
+      if (!isMouseButton(event.button)) break;
+      form_.mouseMove(place(event.button.x, event.button.y));
+      if (event.type == SDL_MOUSEBUTTONDOWN) {
+        form_.mouseDown(buttonOf(event.button));
+      } else {
+        form_.mouseUp(buttonOf(event.button));
+      }
+      break;
+    case SDL_WINDOWEVENT:
+      if (event.window.event == SDL_WINDOWEVENT_SIZE_CHANGED) fit();
+      if (event.window.event == SDL_WINDOWEVENT_EXPOSED) form_.redraw();
+      break;
+    default: break;
+  }
+}
+
+/// Finds the largest scale at which the whole room fits the window, and puts it in the middle.
+void Window::fit() {
+  int width = 0;
+  int height = 0;
+  SDL_GetWindowSizeInPixels(window_.get(), &width, &height);
+  int mouseWidth = 0;
+  SDL_GetWindowSize(window_.get(), &mouseWidth, nullptr);
+  density_ = mouseWidth > 0 ? static_cast<double>(width) / mouseWidth : 1;
+  const double roomWidth = form_.Width / kUnit;
+  const double roomHeight = form_.Height / kUnit;
+  const double scale = std::max(0.05, std::min(width / roomWidth, height / roomHeight));
+  if (scale != std::exchange(scale_, scale)) {
+    SDL_SetCursor(SDL_GetDefaultCursor());
+    cursor_ = {};
+    cursors_.clear();
+  }
+  marginX_ = static_cast<int>((width - roomWidth * scale) / 2);
+  marginY_ = static_cast<int>((height - roomHeight * scale) / 2);
+  form_.redraw();
+}
+
+/// The place of the mouse in the room.
+Point Window::place(int x, int y) const {
+  const auto twips = [&](int at, int margin) {
+    return static_cast<int>(std::floor((at * density_ - margin) / scale_ * kUnit));
+  };
+  return {twips(x, marginX_), twips(y, marginY_)};
+}
+
+void Window::draw() {
+  SDL_Surface* surface = SDL_GetWindowSurface(window_.get());
+  if (surface == nullptr) return;
+  if (surface->format->format == kCairoFormat) {
+    paintOn(*surface);
+  } else {
+    const Sdl<SDL_Surface> canvas(
+        SDL_CreateRGBSurfaceWithFormat(0, surface->w, surface->h, 32, kCairoFormat));
+    if (canvas == nullptr) return;
+    paintOn(*canvas);
+    SDL_BlitSurface(canvas.get(), nullptr, surface, nullptr);
+  }
+  SDL_UpdateWindowSurface(window_.get());
+}
+
+void Window::paintOn(SDL_Surface& surface) {
+  const Owned<cairo_surface_t> canvas(cairo_image_surface_create_for_data(
+      static_cast<unsigned char*>(surface.pixels), CAIRO_FORMAT_RGB24, surface.w, surface.h, surface.pitch));
+  if (marginX_ > 0 || marginY_ > 0) SDL_FillRect(&surface, nullptr, 0);
+  cairo_surface_set_device_offset(canvas.get(), marginX_, marginY_);
+  CairoPainter painter(canvas.get(), scale_, cache_);
+  painter.enter({0, 0, form_.Width / kUnit, form_.Height / kUnit});
+  form_.draw(painter);
+  painter.leave();
+  cairo_surface_flush(canvas.get());
+}
+
+void Window::showCursor() {
+  const PictureId wanted = form_.cursor();
+  if (wanted == std::exchange(cursor_, wanted)) return;
+  if (!wanted) {
+    SDL_SetCursor(SDL_GetDefaultCursor());
+    return;
+  }
+  Sdl<SDL_Cursor>& cursor = cursors_[&wanted.store()];
+  if (cursor == nullptr) cursor = makeCursor(wanted, scale_, cache_);
+  SDL_SetCursor(cursor != nullptr ? cursor.get() : SDL_GetDefaultCursor());
+}
+
+}  // namespace tombolario

@@ -1,0 +1,63 @@
+#pragma once
+
+#include <SDL.h>
+
+#include <map>
+#include <memory>
+
+#include "desktop/cairo_painter.hpp"
+#include "room/room.hpp"
+#include "shell/clock_source.hpp"
+
+namespace tombolario {
+
+/// The surroundings of the room on a desktop.
+class DesktopHost : public Host {
+ public:
+  UniformSource& uniform() override { return uniform_; }
+  void openAddress(const std::string& address) override { SDL_OpenURL(address.c_str()); }
+  std::filesystem::path dataDirectory() override { return "."; }
+
+ private:
+  ClockSource uniform_;
+};
+
+struct SdlDeleter {
+  void operator()(SDL_Window* window) const { SDL_DestroyWindow(window); }
+  void operator()(SDL_Surface* surface) const { SDL_FreeSurface(surface); }
+  void operator()(SDL_Cursor* cursor) const { SDL_FreeCursor(cursor); }
+};
+template <class Object>
+using Sdl = std::unique_ptr<Object, SdlDeleter>;
+
+/// The desktop window: shows the room as one piece, as large as fits, and brings the mouse to it. It
+/// draws only when something has changed.
+class Window {
+ public:
+  /// Opens the window at its own size. Throws std::runtime_error where there is no display.
+  explicit Window(Room& room);
+
+  /// Handles events until the window is closed.
+  void run();
+
+ private:
+  void handle(const SDL_Event& event);
+  void fit();
+  void draw();
+  void showCursor();
+  void paintOn(SDL_Surface& surface);
+  Point place(int x, int y) const;
+
+  Form& form_;
+  Sdl<SDL_Window> window_;
+  PainterCache cache_;
+  std::map<const PictureStore*, Sdl<SDL_Cursor>> cursors_;  // at the present scale
+  PictureId cursor_;
+  double scale_ = 1;    // device pixels to a pixel of the room
+  double density_ = 1;  // device pixels to a unit of the mouse
+  int marginX_ = 0;     // device pixels left of and above the room
+  int marginY_ = 0;
+  bool open_ = true;
+};
+
+}  // namespace tombolario
