@@ -1,0 +1,101 @@
+#include "shell/cards.hpp"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <array>
+#include <set>
+#include <vector>
+
+#include "driver/driver.hpp"
+#include "shell/clock_source.hpp"
+
+namespace tombolario {
+namespace {
+
+struct Deal {
+  const char* game;
+  int n;
+  int first;
+  int last;
+  std::size_t slots;
+
+  friend void PrintTo(const Deal& deal, std::ostream* out) { *out << deal.game; }
+};
+
+class EveryDeal : public testing::TestWithParam<Deal> {};
+
+TEST_P(EveryDeal, FillsItsSlotsWithDistinctNumbersAndNoOther) {
+  const auto [game, n, first, last, slots] = GetParam();
+  ScriptedSource source;
+  std::set<std::int16_t> leftOut;
+  for (int seed = 0; seed < 500; ++seed) {
+    source.seed(seed);
+    std::vector<std::int16_t> dealt(slots, -7);
+    mescola(source, dealt, first, last, n);
+    std::set<std::int16_t> seen;
+    for (int i = 0; i < static_cast<int>(slots); ++i) {
+      const std::int16_t value = dealt[static_cast<std::size_t>(i)];
+      if (i < first || i > last) {
+        EXPECT_EQ(value, -7) << "slot " << i << " is not part of the deal";
+      } else {
+        EXPECT_TRUE(value >= 0 && value < n && seen.insert(value).second) << "slot " << i << ": " << value;
+      }
+    }
+    for (std::int16_t value = 0; value < n; ++value) {
+      if (!seen.contains(value)) leftOut.insert(value);
+    }
+  }
+  // Where not all numbers are dealt, each of them is left out now and then.
+  const bool complete = last - first + 1 == n;
+  EXPECT_EQ(leftOut.size(), complete ? 0U : static_cast<std::size_t>(n));
+}
+
+INSTANTIATE_TEST_SUITE_P(Games, EveryDeal,
+                         testing::Values(Deal{"videopoker", 53, 0, 51, 53}, Deal{"poker", 52, 0, 50, 52},
+                                         Deal{"ramino", 52, 0, 50, 52}, Deal{"domino", 28, 0, 27, 28},
+                                         Deal{"chain", 12, 1, 7, 8}, Deal{"mahjongg", 120, 0, 119, 120}),
+                         [](const auto& deal) { return deal.param.game; });
+
+TEST(Mescola, DrawsASlotAgainUntilItsNumberIsFresh) {
+  ScriptedSource source;
+  source.queue({0.25, 0.25, 0.3, 0.75, 0.25, 0.75, 0.5, 0.999});
+  std::array<std::int16_t, 5> dealt{9, 9, 9, 9, 9};
+  mescola(source, dealt, 1, 3, 4);
+  EXPECT_EQ(dealt, (std::array<std::int16_t, 5>{9, 1, 3, 2, 9}));
+  EXPECT_EQ(source.queued(), 1U);
+}
+
+TEST(ClockSource, StartsAnotherSequenceAtEachDealAndStaysInTheUnitInterval) {
+  ClockSource source;
+  std::set<double> firsts;
+  constexpr int kDeals = 1000;
+  for (int i = 0; i < kDeals; ++i) {
+    source.seedFromClock();
+    const double u = source.next();
+    EXPECT_TRUE(u >= 0 && u < 1);
+    firsts.insert(u);
+  }
+  EXPECT_EQ(firsts.size(), static_cast<std::size_t>(kDeals));
+  EXPECT_LT(unitInterval(~std::uint64_t{0}), 1.0);
+}
+
+TEST(CardTables, FollowTheFourBlocksOfThirteen) {
+  std::array<std::int16_t, 53> values{};
+  std::array<std::int16_t, 53> suits{};
+  values[52] = 14;
+  suits[52] = 5;
+  fillCardTables(values, suits);
+  for (std::int16_t k = 0; k < 13; ++k) {
+    for (std::int16_t block = 0; block < 4; ++block) {
+      const auto card = static_cast<std::size_t>(k + 13 * block);
+      EXPECT_EQ(values[card], k);
+      EXPECT_EQ(suits[card], block + 1);
+    }
+  }
+  EXPECT_EQ(values[52], 14);
+  EXPECT_EQ(suits[52], 5);
+}
+
+}  // namespace
+}  // namespace tombolario

@@ -1,0 +1,127 @@
+#include "session.hpp"
+
+namespace tombolario {
+namespace {
+
+TEST(Driver, ABadCommandAnswersAnErrorAndChangesNothing) {
+  Session room;
+  for (const char* bad : {"",
+                          "   ",
+                          "zebra",
+                          "u",
+                          "u 0.1 0.2 zebra",
+                          "u 0.5 1",
+                          "u -0.1",
+                          "u nan",
+                          "u 0x1p-1",
+                          "u 0.5.5",
+                          "seed",
+                          "seed x",
+                          "seed 1.5",
+                          "queued 1",
+                          "start now",
+                          "over",
+                          "over Nobody",
+                          "over Pict",
+                          "over commpr(7)",
+                          "over Command8",
+                          "click Command8",
+                          "click Framecen",
+                          "at 1",
+                          "at 1 x",
+                          "at 1 2 3",
+                          "down both",
+                          "up 1",
+                          "scroll commpr(1) 3",
+                          "scroll Nobody 1",
+                          "get Label2",
+                          "get Label2 caption",
+                          "get Nobody Caption",
+                          "shot",
+                          "shot x.png -1",
+                          "picture CONTPOK1",
+                          "picture Nobody x.png",
+                          "quit now",
+                          "Screen"}) {
+    EXPECT_EQ(room(bad).substr(0, 7), "error: ") << bad;
+  }
+  EXPECT_EQ(room("queued"), "0");
+  EXPECT_EQ(room("start"), "ok") << "nothing of the above has started the room";
+  EXPECT_EQ(room("start").substr(0, 7), "error: ");
+  EXPECT_EQ(room("screen"), "Frameprincipale");
+}
+
+TEST(Driver, QueuedNumbersComeFirstAndInOrder) {
+  Session room;
+  EXPECT_EQ(room("u 0.99 0 5e-1"), "ok");
+  EXPECT_EQ(room("u 0.25"), "ok");
+  EXPECT_EQ(room("queued"), "4");
+  room.play({"click commpr(2)", "click Command8"});
+  EXPECT_EQ(room("queued"), "0");
+  room.expect({"Pict(0) Picture=Picture1(52)", "Pict(1) Picture=Picture1(0)", "Pict(2) Picture=Picture1(26)",
+               "Pict(3) Picture=Picture1(13)"});
+}
+
+TEST(Driver, TheSeedAloneDecidesTheDeals) {
+  const auto deal = [](const char* seed) {
+    Session room;
+    if (seed != nullptr) {
+      EXPECT_EQ(room(std::string("seed ") + seed), "ok");
+    }
+    room.play({"click commpr(2)", "click Command8"});
+    return room("dump");
+  };
+  EXPECT_EQ(deal(nullptr), deal("1"));
+  EXPECT_NE(deal("1"), deal("2"));
+}
+
+TEST(Driver, PropertiesAreTold) {
+  Session room;
+  room.expect({"Form1 Caption=Tombolario",
+               "Form1 Width=11880",
+               "Form1 Height=8595",
+               "Form1 BackColor=0x0000FF",
+               "Frame3 BackColor=tooltip",
+               "Frame3BIS BackColor=window",
+               "Frame1(0) BackColor=3d-light",
+               "Label4 Caption=TOMBOLARIO ",
+               "Label4 ForeColor=0xFFFFFF",
+               "commpr(3) Picture=commpr(3)",
+               "commpr(3) Top=2640",
+               "Command4 Picture=CONTPOK1",
+               "Label13 Picture=none",
+               "Label13 MouseIcon=Label13",
+               "Label4 MouseIcon=Label4",
+               "Label9 MouseIcon=Label9",
+               "Label3 Caption= Dotazione",
+               "Pict(3) Left=360",
+               "LVIDPOK Left=-120",
+               "CoNTCAT Enabled=0"});
+}
+
+TEST(Driver, TheDumpShowsWhatIsOnView) {
+  Session room;
+  room.play({"click commpr(2)"});
+  const std::string dump = room("dump");
+  EXPECT_NE(dump.find("\nMENUVP Visible=1 Enabled=1 BackColor=0xFF8080 "), std::string::npos);
+  EXPECT_NE(dump.find(" Caption=NUOVA PARTITA\n"), std::string::npos);
+  EXPECT_EQ(dump.find("Command4"), std::string::npos);
+  EXPECT_EQ(dump.find("Command1 "), std::string::npos);
+  EXPECT_EQ(dump.substr(dump.size() - 2), "\n.");
+}
+
+TEST(Driver, WithoutACameraNoPictureIsWritten) {
+  Session room;
+  EXPECT_EQ(room("shot " + (room.data.path() / "x.png").string()).substr(0, 7), "error: ");
+  EXPECT_TRUE(std::filesystem::is_empty(room.data.path()));
+}
+
+TEST(Driver, EndsOnItsLastCommand) {
+  Session room;
+  EXPECT_FALSE(room.driver.ended());
+  EXPECT_EQ(room("quit"), "ok");
+  EXPECT_TRUE(room.driver.ended());
+}
+
+}  // namespace
+}  // namespace tombolario

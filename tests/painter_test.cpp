@@ -1,0 +1,198 @@
+#include <cmath>
+#include <cstddef>
+#include <cstring>
+#include <set>
+#include <vector>
+
+#include "desktop/cairo_painter.hpp"
+#include "pictures/catalogue.hpp"
+#include "session.hpp"
+#include "shell/edges.hpp"
+
+namespace tombolario {
+namespace {
+
+constexpr Size kWindow{792, 573};
+
+class Canvas {
+ public:
+  Canvas(Size size, double scale)
+      : surface_(cairo_image_surface_create(CAIRO_FORMAT_RGB24,
+                                            static_cast<int>(std::lround(size.width * scale)),
+                                            static_cast<int>(std::lround(size.height * scale)))),
+        painter(surface_.get(), scale, cache_) {}
+
+  Rgb pixel(int x, int y) const {
+    cairo_surface_flush(surface_.get());
+    std::uint32_t value = 0;
+    std::memcpy(&value, row(y) + std::ptrdiff_t{4} * x, sizeof value);
+    return value & 0xFFFFFF;
+  }
+  int width() const { return cairo_image_surface_get_width(surface_.get()); }
+  int height() const { return cairo_image_surface_get_height(surface_.get()); }
+  std::set<Rgb> colours() const {
+    std::set<Rgb> found;
+    for (int y = 0; y < height(); ++y) {
+      for (int x = 0; x < width(); ++x) found.insert(pixel(x, y));
+    }
+    return found;
+  }
+
+ private:
+  const unsigned char* row(int y) const {
+    const std::ptrdiff_t stride = cairo_image_surface_get_stride(surface_.get());
+    return cairo_image_surface_get_data(surface_.get()) + y * stride;
+  }
+
+  PainterCache cache_;
+  Owned<cairo_surface_t> surface_;
+
+ public:
+  CairoPainter painter;
+};
+
+constexpr double kScales[] = {0.4, 1, 1.25, 1.5, 2, 3.3};
+
+TEST(CairoPainter, UprightEdgesStaySharpAtEveryScale) {
+  for (const double scale : kScales) {
+    Canvas canvas({100, 100}, scale);
+    canvas.painter.fillRect({0, 0, 100, 100}, kWhite);
+    canvas.painter.enter({7.3, 9.1, 60.7, 71.9});
+    canvas.painter.fillRect({-10, -10, 43.7, 200}, kRed);
+    canvas.painter.outlineRect({2.2, 3.3, 50.5, 50.1}, kBlue, 1);
+    canvas.painter.leave();
+    EXPECT_EQ(canvas.colours(), (std::set<Rgb>{kWhite, kRed, kBlue})) << scale;
+  }
+}
+
+TEST(CairoPainter, ClipsAndMovesTheOriginUntilLeft) {
+  Canvas canvas({20, 20}, 1);
+  canvas.painter.fillRect({0, 0, 20, 20}, kWhite);
+  canvas.painter.enter({5, 5, 10, 10});
+  canvas.painter.enter({5, 0, 10, 10});
+  canvas.painter.fillRect({0, 0, 10, 3}, kRed);
+  canvas.painter.leave();
+  canvas.painter.leave();
+  canvas.painter.fillRect({0, 19, 1, 1}, kBlue);
+  EXPECT_EQ(canvas.pixel(10, 5), kRed);
+  EXPECT_EQ(canvas.pixel(14, 7), kRed);
+  EXPECT_EQ(canvas.pixel(15, 5), kWhite);
+  EXPECT_EQ(canvas.pixel(9, 5), kWhite);
+  EXPECT_EQ(canvas.pixel(10, 8), kWhite);
+  EXPECT_EQ(canvas.pixel(0, 19), kBlue);
+}
+
+TEST(CairoPainter, TextGrowsWithTheScaleAlone) {
+  const Font font{.face = Face::Heavy, .points = 12};
+  Canvas small(kWindow, 1);
+  const double width = small.painter.textWidth("CREDITO INSUFFICIENTE", font);
+  EXPECT_GT(width, 100);
+  for (const double scale : kScales) {
+    Canvas canvas(kWindow, scale);
+    EXPECT_NEAR(canvas.painter.textWidth("CREDITO INSUFFICIENTE", font), width, width * 0.02) << scale;
+    const Font fitting = fittingFont(canvas.painter, "CREDITO INSUFFICIENTE", font, 80);
+    EXPECT_LE(canvas.painter.textWidth("CREDITO INSUFFICIENTE", fitting), 80.5) << scale;
+  }
+}
+
+TEST(CairoPainter, APictureIsDrawnOnceAScaleAndLooksAsDrawnDirectly) {
+  for (const double scale : {1.0, 1.5, 2.0}) {
+    const PictureId joker(pictures::Picture1, 52);
+    Canvas direct({70, 93}, scale);
+    joker.draw(direct.painter);
+    Canvas cached({70, 93}, scale);
+    cached.painter.picture(joker, {0, 0}, false);
+    for (int y = 0; y < direct.height(); ++y) {
+      for (int x = 0; x < direct.width(); ++x)
+        ASSERT_EQ(direct.pixel(x, y), cached.pixel(x, y)) << x << ',' << y;
+    }
+  }
+}
+
+/// Every colour that is told of a picture is found in it, in more than stray pixels.
+TEST(Pictures, ShowTheirGroundAndInk) {
+  struct Told {
+    const char* picture;
+    std::set<Rgb> colours;
+  };
+  const std::vector<Told> told{{"commpr(4)", {kRed, kWhite}},
+                               {"Picture3", {kRed, kWhite, kBlack}},
+                               {"Picture1(0)", {kRed, kBlack}},
+                               {"Picture1(22)", {kYellow, kBlack}},
+                               {"Picture1(26)", {0x00E8E8, kBlack}},
+                               {"Picture1(51)", {kGreen, kBlack}},
+                               {"Picture1(52)", {kWhite, 0xFF8040, kBlack, kBlue, kYellow}},
+                               {"Pictcomvidpok", {kRed, kWhite}},
+                               {"segn(7)", {kBlue, kWhite}},
+                               {"CONTPOK1", {kCyan, kRed}},
+                               {"CONTPOK2", {kCyan, kRed}},
+                               {"SALVPOK1", {kRed, kYellow}},
+                               {"SALVPOK2", {kRed, kYellow}},
+                               {"striscie", {kRed, kCyan, kBlue, kYellow}},
+                               {"FINECA", {kRed, kWhite}}};
+  for (const auto& [name, colours] : told) {
+    const PictureId picture = pictures::find(name);
+    Canvas canvas(picture.size(), 2);
+    picture.draw(canvas.painter);
+    for (const Rgb colour : colours) {
+      int found = 0;
+      for (int y = 0; y < canvas.height(); ++y) {
+        for (int x = 0; x < canvas.width(); ++x) found += canvas.pixel(x, y) == colour;
+      }
+      EXPECT_GT(found, 20) << name << " lacks " << std::hex << colour;
+    }
+  }
+}
+
+/// The same picture, lit: nothing but the ground changes, so that a row does not jump when it is lit.
+TEST(Pictures, ALitRowLiesRightOnItsRowOfThePayTable) {
+  const std::vector<double> tops{0, 290, 570, 800, 1050, 1310, 1560, 1810, 2070, 2330, 2560};
+  for (int test = 0; test < 33; ++test) {
+    const int k = test % 11;
+    const int step = test / 11;
+    const double scale = 1 + 0.37 * step;
+    Canvas table({156, 191}, scale);
+    pictures::find("Pictcomvidpok").draw(table.painter);
+    const PictureId row(pictures::segn, k);
+    Canvas lit({156, 191}, scale);
+    lit.painter.picture(row, {0, tops[static_cast<std::size_t>(k)] / 15}, false);
+    const int top = static_cast<int>(std::lround(tops[static_cast<std::size_t>(k)] / 15 * scale));
+    int ink = 0;
+    int moved = 0;
+    for (int y = top + 1; y < top + static_cast<int>(14 * scale); ++y) {
+      for (int x = 0; x < table.width(); ++x) {
+        // The share of white is the green of the pixel, on red as on blue.
+        const int before = static_cast<int>(table.pixel(x, y) >> 8 & 0xFF);
+        const int after = static_cast<int>(lit.pixel(x, y) >> 8 & 0xFF);
+        ink += before > 128;
+        moved += std::abs(before - after) > 96;
+      }
+    }
+    EXPECT_GT(ink, 50) << k;
+    EXPECT_LE(moved, ink / 20) << "row " << k << " at " << scale;
+  }
+}
+
+/// At no scale does a caption or a picture's text leave its control: the outermost pixels of the plates
+/// are pure ground.
+TEST(Pictures, TheTextOfAPlateKeepsOffItsEdge) {
+  for (const double scale : {1.0, 1.25, 1.5, 2.0, 3.3}) {
+    for (const char* name : {"commpr(4)", "CONTPOK2", "SALVPOK2", "INICAT", "CoNTCAT", "FINECA"}) {
+      const PictureId picture = pictures::find(name);
+      Canvas canvas(picture.size(), scale);
+      picture.draw(canvas.painter);
+      const Rgb ground = canvas.pixel(0, 0);
+      for (int x = 0; x < canvas.width(); ++x) {
+        ASSERT_EQ(canvas.pixel(x, 0), ground) << name << ' ' << scale;
+        ASSERT_EQ(canvas.pixel(x, canvas.height() - 1), ground) << name << ' ' << scale;
+      }
+      for (int y = 0; y < canvas.height(); ++y) {
+        ASSERT_EQ(canvas.pixel(0, y), ground) << name << ' ' << scale;
+        ASSERT_EQ(canvas.pixel(canvas.width() - 1, y), ground) << name << ' ' << scale;
+      }
+    }
+  }
+}
+
+}  // namespace
+}  // namespace tombolario

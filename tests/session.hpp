@@ -1,0 +1,81 @@
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <fstream>
+#include <initializer_list>
+#include <string>
+#include <string_view>
+
+#include "driver/driver.hpp"
+
+namespace tombolario {
+
+/// A directory of its own for the data files of one test, gone after it.
+class TemporaryDirectory {
+ public:
+  TemporaryDirectory() {
+    const auto* test = testing::UnitTest::GetInstance()->current_test_info();
+    path_ = std::filesystem::temp_directory_path() /
+            ("tombolario-" + std::string(test->test_suite_name()) + '-' + test->name());
+    std::filesystem::remove_all(path_);
+    std::filesystem::create_directories(path_);
+  }
+  TemporaryDirectory(const TemporaryDirectory&) = delete;
+  TemporaryDirectory& operator=(const TemporaryDirectory&) = delete;
+  ~TemporaryDirectory() {
+    std::error_code ignored;
+    std::filesystem::permissions(path_, std::filesystem::perms::owner_all, ignored);
+    std::filesystem::remove_all(path_, ignored);
+  }
+
+  const std::filesystem::path& path() const { return path_; }
+
+ private:
+  std::filesystem::path path_;
+};
+
+inline std::string contentOf(const std::filesystem::path& file) {
+  std::ifstream in(file, std::ios::binary);
+  return {std::istreambuf_iterator<char>(in), {}};
+}
+
+inline void writeFile(const std::filesystem::path& file, std::string_view content) {
+  std::ofstream(file, std::ios::binary) << content;
+}
+
+/// A room that is played by commands, with data files of its own.
+class Session {
+ public:
+  std::string operator()(const std::string& command) { return driver.answer(command); }
+
+  /// Commands that must all answer "ok".
+  void play(std::initializer_list<const char*> commands) {
+    for (const char* command : commands) EXPECT_EQ(driver.answer(command), "ok") << command;
+  }
+  std::string get(const std::string& control, const std::string& property) {
+    return driver.answer("get " + control + ' ' + property);
+  }
+  /// The controls that differ from what is expected, by the properties given as "NAME Property=value".
+  void expect(std::initializer_list<const char*> facts) {
+    for (const std::string_view fact : facts) {
+      const std::size_t blank = fact.find(' ');
+      const std::size_t equals = fact.find('=');
+      const std::string control(fact.substr(0, blank));
+      const std::string property(fact.substr(blank + 1, equals - blank - 1));
+      EXPECT_EQ(get(control, property), fact.substr(equals + 1)) << control << ' ' << property;
+    }
+  }
+  /// The next cards to be dealt from a pack of that many, in order.
+  void queueCards(int pack, const std::vector<int>& cards) {
+    std::string command = "u";
+    for (const int card : cards) command += ' ' + std::to_string((card + 0.5) / pack);
+    EXPECT_EQ(driver.answer(command), "ok");
+  }
+
+  TemporaryDirectory data;
+  Driver driver{nullptr, data.path()};
+};
+
+}  // namespace tombolario

@@ -1,0 +1,162 @@
+#include "videopoker/scoring.hpp"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <array>
+#include <cstdio>
+#include <set>
+
+#include "sanitized.hpp"
+#include "shell/cards.hpp"
+
+namespace tombolario::videopoker {
+namespace {
+
+constexpr int kJokerCard = 52;
+
+Hand handOf(const std::array<int, kHandSize>& cards) {
+  Hand hand;
+  for (std::size_t i = 0; i < kHandSize; ++i) {
+    const bool joker = cards[i] == kJokerCard;
+    hand.value[i] = static_cast<std::int16_t>(joker ? 14 : cards[i] % 13);
+    hand.suit[i] = static_cast<std::int16_t>(joker ? 5 : cards[i] / 13 + 1);
+  }
+  return hand;
+}
+
+/// The values all lie in one of the ten sequences from A, 2, 3, 4, 5 to 10, J, Q, K, A.
+bool fitsASequence(const std::set<int>& values) {
+  for (int low = 0; low <= 9; ++low) {
+    const auto inside = [&](int v) { return (v >= low && v <= low + 4) || (v == 0 && low == 9); };
+    if (std::all_of(values.begin(), values.end(), inside)) return true;
+  }
+  return false;
+}
+
+/// The row of a hand by its plain description, with no ladder of tests.
+Row plainRow(const Hand& hand) {
+  std::array<int, 15> count{};
+  std::set<int> values;
+  std::set<int> suits;
+  bool joker = false;
+  for (std::size_t i = 0; i < kHandSize; ++i) {
+    if (hand.value[i] == 14) {
+      joker = true;
+      continue;
+    }
+    ++count[static_cast<std::size_t>(hand.value[i])];
+    values.insert(hand.value[i]);
+    suits.insert(hand.suit[i]);
+  }
+  std::sort(count.rbegin(), count.rend());
+  const std::size_t cards = joker ? 4 : 5;
+  if (values.size() < cards) {
+    const int alike = count[0];
+    if (!joker) {
+      if (alike == 4) return kFour;
+      if (alike == 3) return count[1] == 2 ? kFull : kThree;
+      return count[1] == 2 ? kTwoPairs : kPair;
+    }
+    if (alike == 4) return kFive;
+    if (alike == 3) return kFour;
+    return count[1] == 2 ? kFull : kThree;
+  }
+  const bool oneSuit = suits.size() == 1;
+  const bool sequence = fitsASequence(values);
+  if (sequence && oneSuit) return kStraightFlush;
+  if (oneSuit) return hand.suit[1] == 1 ? kRedFlush : kFlush;
+  if (sequence) return kStraight;
+  if (!joker) return kNothing;
+  // An ace beside any three cards close together makes a straight with the joker: A, 4, 5, 6 too.
+  const bool aceAndThree = *values.begin() == 0 && *values.rbegin() - *std::next(values.begin()) <= 3;
+  return aceAndThree ? kStraight : kPair;
+}
+
+Group plainGroup(const Hand& hand, Row row, std::size_t position) {
+  const auto times = [&](int value) { return std::count(hand.value.begin(), hand.value.end(), value); };
+  const auto rank = [](int value) { return value == 0 ? 13 : value; };
+  const int value = hand.value[position];
+  if (times(value) < 2) return Group::None;
+  if (row == kPair || row == kThree || row == kFour) return Group::First;
+  if (row != kTwoPairs && row != kFull) return Group::None;
+  for (const int other : hand.value) {
+    if (other == value || times(other) < 2) continue;
+    const bool before =
+        times(other) != times(value) ? times(other) > times(value) : rank(other) > rank(value);
+    if (before) return Group::Second;
+  }
+  return Group::First;
+}
+
+TEST(Scoring, AgreesWithThePlainDescriptionOnEveryHand) {
+  constexpr int kStep = kSanitized ? 61 : 1;
+  std::array<long, kRows> rows{};
+  long hands = 0;
+  std::array<int, 5> c{};
+  for (c[0] = 0; c[0] <= 52; ++c[0])
+    for (c[1] = c[0] + 1; c[1] <= 52; ++c[1])
+      for (c[2] = c[1] + 1; c[2] <= 52; ++c[2])
+        for (c[3] = c[2] + 1; c[3] <= 52; ++c[3])
+          for (c[4] = c[3] + 1; c[4] <= 52; ++c[4]) {
+            if (++hands % kStep != 0) continue;
+            // Another card stands second each time, the joker too.
+            auto cards = c;
+            std::rotate(cards.begin(), cards.begin() + hands % 5, cards.end());
+            const Hand hand = handOf(cards);
+            const Scoring scoring = score(hand);
+            const Row row = plainRow(hand);
+            ++rows[row];
+            bool agrees =
+                std::count(scoring.lit.begin(), scoring.lit.end(), true) == 1 && scoring.row() == row;
+            for (std::size_t i = 0; i < kHandSize; ++i) {
+              agrees = agrees && groupOf(scoring, hand.value[i]) == plainGroup(hand, row, i);
+            }
+            ASSERT_TRUE(agrees) << cards[0] << ' ' << cards[1] << ' ' << cards[2] << ' ' << cards[3] << ' '
+                                << cards[4] << " scores row " << scoring.row() << ", should be " << row;
+          }
+  EXPECT_EQ(hands, 2'869'685);
+  for (std::size_t row = 0; row < kRows; ++row) std::printf("row %2zu: %8ld hands\n", row, rows[row]);
+  if (kStep == 1) {
+    // Known from the pack of 52: each plain hand without the joker is among these.
+    EXPECT_EQ(rows[kFive], 13);
+    EXPECT_EQ(rows[kFour], 624 + 13 * 4 * 48);
+    EXPECT_EQ(rows[kFull], 3744 + 78 * 36);
+    EXPECT_EQ(rows[kTwoPairs], 123'552);
+  }
+}
+
+struct Example {
+  std::array<int, 5> cards;
+  Row row;
+};
+
+// Suits by hand: 0 to 12 red, 13 yellow, 26 cyan, 39 green.
+TEST(Scoring, TellsApartTheHandsThatDifferByLittle) {
+  const std::array<Example, 18> examples{{
+      {{0, 22, 36, 11, 12}, kStraight},        // 10 to the ace
+      {{0, 9, 10, 11, 12}, kStraightFlush},    // in the red suit too
+      {{12, 13, 1, 2, 3}, kNothing},           // no way round the king
+      {{0, 14, 28, 3, 4}, kStraight},          // the ace low
+      {{1, 15, 29, 4, 52}, kStraight},         // four in sequence
+      {{1, 15, 30, 5, 52}, kStraight},         // one gap
+      {{1, 15, 30, 6, 52}, kPair},             // two gaps
+      {{0, 15, 29, 5, 52}, kStraight},         // an ace beside three cards
+      {{0, 14, 28, 6, 52}, kPair},             //
+      {{0, 23, 37, 12, 52}, kStraight},        //
+      {{13, 23, 24, 25, 52}, kStraightFlush},  //
+      {{0, 3, 4, 5, 52}, kRedFlush},           // the ace beside three cards, all of one suit
+      {{13, 16, 17, 18, 52}, kFlush},          //
+      {{0, 52, 2, 5, 9}, kFlush},              // only the second card is asked for red
+      {{52, 0, 2, 5, 9}, kRedFlush},           //
+      {{0, 13, 4, 17, 52}, kFull},             //
+      {{7, 20, 33, 46, 52}, kFive},            //
+      {{7, 20, 33, 52, 1}, kFour},             //
+  }};
+  for (const auto& [cards, row] : examples) {
+    EXPECT_EQ(score(handOf(cards)).row(), row) << cards[0] << ' ' << cards[1] << ' ' << cards[2];
+  }
+}
+
+}  // namespace
+}  // namespace tombolario::videopoker
