@@ -1,0 +1,81 @@
+// How long a full repaint takes, and how many mouse events a second the room can handle.
+
+#include <benchmark/benchmark.h>
+
+#include <cmath>
+#include <random>
+#include <string>
+
+#include "desktop/cairo_painter.hpp"
+#include "room/room.hpp"
+#include "shell/clock_source.hpp"
+
+namespace tombolario {
+namespace {
+
+class BenchHost : public Host {
+ public:
+  UniformSource& uniform() override { return uniform_; }
+  void openAddress(const std::string&) override {}
+  std::filesystem::path dataDirectory() override { return std::filesystem::temp_directory_path(); }
+
+ private:
+  ClockSource uniform_;
+};
+
+/// A started room, played to one of its screens.
+struct Played {
+  Played() { room.Form_Load(); }
+  void click(const char* name) {
+    const Control* control = form.find(name);
+    form.mouseMove(control->origin() + Point{control->Width / 2, control->Height / 2});
+    form.mouseDown(MouseButton::Left);
+    form.mouseUp(MouseButton::Left);
+  }
+
+  BenchHost host;
+  Room room{host};
+  Form& form = room.form();
+};
+
+void repaint(benchmark::State& state, std::initializer_list<const char*> way) {
+  Played played;
+  for (const char* name : way) played.click(name);
+  const double scale = static_cast<double>(state.range(0));
+  const Owned<cairo_surface_t> surface(
+      cairo_image_surface_create(CAIRO_FORMAT_RGB24, static_cast<int>(std::lround(792 * scale)),
+                                 static_cast<int>(std::lround(573 * scale))));
+  PainterCache cache;
+  for ([[maybe_unused]] auto frame : state) {
+    CairoPainter painter(surface.get(), scale, cache);
+    played.form.draw(painter);
+    cairo_surface_flush(surface.get());
+  }
+}
+
+BENCHMARK_CAPTURE(repaint, MainMenu, {})->Arg(1)->Arg(2)->Arg(4)->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(repaint, VideoPokerTable, {"commpr(2)", "Command8"})
+    ->Arg(1)
+    ->Arg(2)
+    ->Arg(4)
+    ->Unit(benchmark::kMillisecond);
+
+/// Moves, presses and releases all over the room, which play on by themselves.
+void mouseEvents(benchmark::State& state) {
+  Played played;
+  std::mt19937 engine(1);
+  for ([[maybe_unused]] auto event : state) {
+    const auto x = static_cast<int>(engine() % 11880);
+    const auto y = static_cast<int>(engine() % 8595);
+    played.form.mouseMove({x, y});
+    played.form.mouseDown(MouseButton::Left);
+    played.form.mouseUp(MouseButton::Left);
+  }
+  state.SetItemsProcessed(3 * state.iterations());
+}
+BENCHMARK(mouseEvents);
+
+}  // namespace
+}  // namespace tombolario
+
+BENCHMARK_MAIN();
