@@ -49,17 +49,15 @@ cairo_surface_t* PainterCache::picture(const PictureId& picture, double scale) {
     bytes_ = 0;
     scale_ = scale;
   }
-  Owned<cairo_surface_t>& drawn = pictures_[picture];
-  if (drawn == nullptr) {
-    const Size size = picture.size();
-    const int width = std::max(1, static_cast<int>(std::lround(size.width * scale)));
-    const int height = std::max(1, static_cast<int>(std::lround(size.height * scale)));
-    drawn.reset(cairo_image_surface_create(CAIRO_FORMAT_ARGB32, width, height));
-    bytes_ += std::size_t{4} * static_cast<std::size_t>(width) * static_cast<std::size_t>(height);
-    CairoPainter painter(drawn.get(), scale, *this);
-    picture.draw(painter);
-  }
-  return drawn.get();
+  if (const auto kept = pictures_.find(picture); kept != pictures_.end()) return kept->second.get();
+  const Size size = picture.size();
+  const int width = std::max(1, static_cast<int>(std::lround(size.width * scale)));
+  const int height = std::max(1, static_cast<int>(std::lround(size.height * scale)));
+  Owned<cairo_surface_t> drawn(cairo_image_surface_create(CAIRO_FORMAT_ARGB32, width, height));
+  CairoPainter painter(drawn.get(), scale, *this);
+  picture.draw(painter);  // which may draw other pictures, and so change what is kept
+  bytes_ += std::size_t{4} * static_cast<std::size_t>(width) * static_cast<std::size_t>(height);
+  return (pictures_[picture] = std::move(drawn)).get();
 }
 
 PangoLayout* PainterCache::layout(std::string_view text, const Font& font, double scale) {

@@ -32,6 +32,7 @@ class PainterCache {
   PainterCache();
 
   /// The picture at that scale (device pixels to a pixel); what was kept at another scale is dropped.
+  /// It is good until the next call.
   cairo_surface_t* picture(const PictureId& picture, double scale);
   /// The text laid out at that scale. The layout is good until the next call.
   PangoLayout* layout(std::string_view text, const Font& font, double scale);
