@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "desktop/cairo_painter.hpp"
+#include "driver/cairo_camera.hpp"
 #include "pictures/catalogue.hpp"
 #include "session.hpp"
 #include "shell/edges.hpp"
@@ -192,6 +193,28 @@ TEST(Pictures, TheTextOfAPlateKeepsOffItsEdge) {
       }
     }
   }
+}
+
+TEST(CairoCamera, WritesTheWindowAndEachPictureAtTheScale) {
+  TemporaryDirectory directory;
+  CairoCamera camera;
+  Driver room(&camera, directory.path());
+  const auto sizeOf = [&](const std::string& file) {
+    const Owned<cairo_surface_t> png(cairo_image_surface_create_from_png(file.c_str()));
+    return std::pair(cairo_image_surface_get_width(png.get()), cairo_image_surface_get_height(png.get()));
+  };
+  const std::string lost = (directory.path() / "no" / "such.png").string();
+  const std::string file = (directory.path() / "x.png").string();
+  EXPECT_EQ(room.answer("shot " + lost).substr(0, 7), "error: ");
+  EXPECT_EQ(room.answer("picture CONTPOK1 " + lost).substr(0, 7), "error: ");
+  EXPECT_EQ(room.answer("shot " + file + " 0").substr(0, 7), "error: ");
+  EXPECT_EQ(room.answer("start"), "ok") << "nothing of the above has started the room";
+  EXPECT_EQ(room.answer("shot " + file), "ok");
+  EXPECT_EQ(sizeOf(file), std::pair(792, 573));
+  EXPECT_EQ(room.answer("shot " + file + " 2.5"), "ok");
+  EXPECT_EQ(sizeOf(file), std::pair(1980, 1433));
+  EXPECT_EQ(room.answer("picture Picture1(52) " + file + " 3"), "ok");
+  EXPECT_EQ(sizeOf(file), std::pair(210, 279));
 }
 
 }  // namespace

@@ -26,16 +26,19 @@ bool isMouseButton(const SDL_MouseButtonEvent& event) {
 
 /// A cursor drawn at that scale, its hot spot with it.
 Sdl<SDL_Cursor> makeCursor(const PictureId& picture, double scale, PainterCache& cache) {
-  cairo_surface_t* drawn = cache.picture(picture, scale);
-  cairo_surface_flush(drawn);
-  const int width = cairo_image_surface_get_width(drawn);
-  const int height = cairo_image_surface_get_height(drawn);
-  const Sdl<SDL_Surface> surface(
-      SDL_CreateRGBSurfaceWithFormatFrom(cairo_image_surface_get_data(drawn), width, height, 32,
-                                         cairo_image_surface_get_stride(drawn), SDL_PIXELFORMAT_ARGB8888));
+  const Size size = picture.size();
+  const int width = std::max(1, static_cast<int>(std::lround(size.width * scale)));
+  const int height = std::max(1, static_cast<int>(std::lround(size.height * scale)));
+  const Owned<cairo_surface_t> drawn(cairo_image_surface_create(CAIRO_FORMAT_ARGB32, width, height));
+  CairoPainter painter(drawn.get(), scale, cache);
+  picture.draw(painter);
+  cairo_surface_flush(drawn.get());
+  const Sdl<SDL_Surface> surface(SDL_CreateRGBSurfaceWithFormatFrom(
+      cairo_image_surface_get_data(drawn.get()), width, height, 32,
+      cairo_image_surface_get_stride(drawn.get()), SDL_PIXELFORMAT_ARGB8888));
   const Vec hot = picture.store().hotSpot;
-  const auto pixel = [scale](double at, int size) {
-    return std::clamp(static_cast<int>((at + 0.5) * scale), 0, size - 1);
+  const auto pixel = [scale](double at, int end) {
+    return std::clamp(static_cast<int>((at + 0.5) * scale), 0, end - 1);
   };
   return Sdl<SDL_Cursor>(SDL_CreateColorCursor(surface.get(), pixel(hot.x, width), pixel(hot.y, height)));
 }
@@ -142,7 +145,7 @@ void Window::paintOn(SDL_Surface& surface) {
   cairo_surface_set_device_offset(canvas.get(), marginX_, marginY_);
   CairoPainter painter(canvas.get(), scale_, cache_);
   painter.enter({0, 0, form_.Width / kUnit, form_.Height / kUnit});
-  form_.draw(painter);
+  form_.repaint(painter);
   painter.leave();
   cairo_surface_flush(canvas.get());
 }
@@ -155,7 +158,7 @@ void Window::showCursor() {
     return;
   }
   Sdl<SDL_Cursor>& cursor = cursors_[&wanted.store()];
-  if (cursor == nullptr) cursor = makeCursor(wanted, scale_, cache_);
+  if (cursor == nullptr) cursor = makeCursor(wanted, scale_ / density_, cache_);
   SDL_SetCursor(cursor != nullptr ? cursor.get() : SDL_GetDefaultCursor());
 }
 

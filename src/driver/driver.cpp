@@ -4,7 +4,7 @@
 #include <array>
 #include <charconv>
 #include <cstdlib>
-#include <functional>
+#include <fstream>
 #include <utility>
 
 #include "driver/properties.hpp"
@@ -94,39 +94,39 @@ std::string Driver::dispatch(const Words& words) {
   struct Command {
     std::string_view name;
     std::size_t fewest, most;  // words behind the name
-    std::function<std::string()> run;
+    std::string (Driver::*run)(const Words& words);
   };
-  constexpr std::size_t kMany = SIZE_MAX;
-  const std::array commands{
-      Command{"u", 1, kMany, [&] { return queueNumbers(words); }},
-      Command{"seed", 1, 1, [&] { return seed(words); }},
-      Command{"queued", 0, 0, [&] { return std::to_string(host_.uniform().queued()); }},
-      Command{"start", 0, 0, [&] { return start(); }},
-      Command{"over", 1, 1, [&] { return over(words); }},
-      Command{"at", 2, 2, [&] { return at(words); }},
-      Command{"down", 0, 1, [&] { return down(words); }},
-      Command{"up", 0, 1, [&] { return up(words); }},
-      Command{"click", 1, 1, [&] { return click(words); }},
-      Command{"scroll", 2, 2, [&] { return scroll(words); }},
-      Command{"screen", 0, 0, [&] { return screen(); }},
-      Command{"get", 2, 2, [&] { return get(words); }},
-      Command{"links", 0, 0, [&] { return links(); }},
-      Command{"dump", 0, 0, [&] { return dump(); }},
-      Command{"shot", 1, 2, [&] { return shot(words); }},
-      Command{"pictures", 0, 0, [&] { return pictures(); }},
-      Command{"picture", 2, 3, [&] { return picture(words); }},
-      Command{"quit", 0, 0, [&] { return quit(); }},
+  static constexpr std::array kCommands{
+      Command{"u", 1, SIZE_MAX, &Driver::queueNumbers},
+      Command{"seed", 1, 1, &Driver::seed},
+      Command{"queued", 0, 0, &Driver::queued},
+      Command{"start", 0, 0, &Driver::start},
+      Command{"over", 1, 1, &Driver::over},
+      Command{"at", 2, 2, &Driver::at},
+      Command{"down", 0, 1, &Driver::down},
+      Command{"up", 0, 1, &Driver::up},
+      Command{"click", 1, 1, &Driver::click},
+      Command{"scroll", 2, 2, &Driver::scroll},
+      Command{"screen", 0, 0, &Driver::screen},
+      Command{"get", 2, 2, &Driver::get},
+      Command{"links", 0, 0, &Driver::links},
+      Command{"dump", 0, 0, &Driver::dump},
+      Command{"shot", 1, 2, &Driver::shot},
+      Command{"pictures", 0, 0, &Driver::pictures},
+      Command{"picture", 2, 3, &Driver::picture},
+      Command{"quit", 0, 0, &Driver::quit},
   };
   if (words.empty()) throw Refusal{"no command"};
-  const auto command = std::find_if(commands.begin(), commands.end(),
-                                    [&](const Command& known) { return known.name == words[0]; });
-  if (command == commands.end()) throw Refusal{"unknown command: " + words[0]};
+  const auto* command = std::find_if(kCommands.begin(), kCommands.end(),
+                                     [&](const Command& known) { return known.name == words[0]; });
+  if (command == kCommands.end()) throw Refusal{"unknown command: " + words[0]};
   const std::size_t given = words.size() - 1;
   if (given < command->fewest || given > command->most) throw Refusal{"wrong number of words: " + words[0]};
-  return command->run();
+  return (this->*command->run)(words);
 }
 
-// Each command first looks whether it can be carried out, and only then starts the room and acts.
+// Each command first looks whether it can be carried out, and only then starts the room and acts. What is
+// on view can be told before the start, too: the start-up changes nothing there.
 
 Form& Driver::started() {
   if (!std::exchange(started_, true)) room_.Form_Load();
@@ -156,12 +156,14 @@ std::string Driver::queueNumbers(const Words& words) {
   return "ok";
 }
 
+std::string Driver::queued(const Words&) { return std::to_string(host_.uniform().queued()); }
+
 std::string Driver::seed(const Words& words) {
   host_.uniform().seed(wholeNumber(words[1]));
   return "ok";
 }
 
-std::string Driver::start() {
+std::string Driver::start(const Words&) {
   if (started_) throw Refusal{"the room is started already"};
   started();
   return "ok";
@@ -207,7 +209,7 @@ std::string Driver::scroll(const Words& words) {
   return "ok";
 }
 
-std::string Driver::screen() {
+std::string Driver::screen(const Words&) {
   started();
   return room_.screen().name().text();
 }
@@ -220,7 +222,7 @@ std::string Driver::get(const Words& words) {
   return property->read(control);
 }
 
-std::string Driver::links() {
+std::string Driver::links(const Words&) {
   started();
   if (host_.addresses.empty()) return "none";
   std::string all;
@@ -231,7 +233,7 @@ std::string Driver::links() {
   return all;
 }
 
-std::string Driver::dump() {
+std::string Driver::dump(const Words&) {
   std::string lines;
   for (const Control* control : started().controls()) {
     if (!control->onView()) continue;
@@ -247,18 +249,20 @@ std::string Driver::dump() {
   return lines + '.';
 }
 
-Camera& Driver::camera() {
+Camera& Driver::cameraFor(const std::string& file) {
   if (camera_ == nullptr) throw Refusal{"this build draws no pictures"};
+  if (!std::ofstream(file, std::ios::app)) throw Refusal{"cannot write " + file};
   return *camera_;
 }
 
 std::string Driver::shot(const Words& words) {
   const double scale = scaleIn(words, 2);
-  if (!camera().shoot(started(), words[1], scale)) throw Refusal{"cannot write " + words[1]};
+  Camera& camera = cameraFor(words[1]);
+  if (!camera.shoot(started(), words[1], scale)) throw Refusal{"cannot write " + words[1]};
   return "ok";
 }
 
-std::string Driver::pictures() {
+std::string Driver::pictures(const Words&) {
   started();
   std::string lines;
   for (const PictureStore* store : pictures::catalogue()) {
@@ -275,13 +279,13 @@ std::string Driver::picture(const Words& words) {
   const PictureId picture = pictures::find(words[1]);
   if (!picture) throw Refusal{"unknown picture: " + words[1]};
   const double scale = scaleIn(words, 3);
-  Camera& camera = this->camera();
+  Camera& camera = cameraFor(words[2]);
   started();
   if (!camera.shoot(picture, words[2], scale)) throw Refusal{"cannot write " + words[2]};
   return "ok";
 }
 
-std::string Driver::quit() {
+std::string Driver::quit(const Words&) {
   ended_ = true;
   return "ok";
 }

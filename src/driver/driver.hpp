@@ -8,19 +8,11 @@
 #include <string_view>
 #include <vector>
 
+#include "driver/camera.hpp"
 #include "room/room.hpp"
 #include "shell/clock_source.hpp"
 
 namespace tombolario {
-
-/// Writes pictures to PNG files, where the build can draw at all.
-class Camera {
- public:
-  virtual ~Camera() = default;
-  /// The scale is in device pixels to a pixel. False if the file could not be written.
-  virtual bool shoot(Form& form, const std::string& file, double scale) = 0;
-  virtual bool shoot(const PictureId& picture, const std::string& file, double scale) = 0;
-};
 
 /// Queued numbers first, then a generator with a seed of its own; the clock seeds nothing.
 class ScriptedSource : public UniformSource {
@@ -74,25 +66,27 @@ class Driver {
 
   std::string dispatch(const Words& words);
   std::string queueNumbers(const Words& words);
+  std::string queued(const Words& words);
   std::string seed(const Words& words);
-  std::string start();
+  std::string start(const Words& words);
   std::string over(const Words& words);
   std::string at(const Words& words);
   std::string down(const Words& words);
   std::string up(const Words& words);
   std::string click(const Words& words);
   std::string scroll(const Words& words);
-  std::string screen();
+  std::string screen(const Words& words);
   std::string get(const Words& words);
-  std::string links();
-  std::string dump();
+  std::string links(const Words& words);
+  std::string dump(const Words& words);
   std::string shot(const Words& words);
-  std::string pictures();
+  std::string pictures(const Words& words);
   std::string picture(const Words& words);
-  std::string quit();
+  std::string quit(const Words& words);
 
   Form& started();
-  Camera& camera();
+  /// The camera, for a file that can be written.
+  Camera& cameraFor(const std::string& file);
   Control& named(const std::string& name);
   Control& namedOnView(const std::string& name);
 

@@ -3,7 +3,7 @@
 
 #include "driver/driver.hpp"
 #ifdef TOMBOLARIO_DRAWS
-#include "desktop/camera.hpp"
+#include "driver/cairo_camera.hpp"
 #endif
 
 int main() {

@@ -1,5 +1,6 @@
-#include "desktop/camera.hpp"
+#include "driver/cairo_camera.hpp"
 
+#include <algorithm>
 #include <cmath>
 
 namespace tombolario {
@@ -13,10 +14,11 @@ bool save(cairo_surface_t* surface, const std::string& file) {
 }  // namespace
 
 bool CairoCamera::shoot(Form& form, const std::string& file, double scale) {
-  const double unit = kTwipsPerPixel;
+  const auto pixels = [scale](int twips) {
+    return std::max(1, static_cast<int>(std::lround(static_cast<double>(twips) / kTwipsPerPixel * scale)));
+  };
   const Owned<cairo_surface_t> surface(
-      cairo_image_surface_create(CAIRO_FORMAT_RGB24, static_cast<int>(std::lround(form.Width / unit * scale)),
-                                 static_cast<int>(std::lround(form.Height / unit * scale))));
+      cairo_image_surface_create(CAIRO_FORMAT_RGB24, pixels(form.Width), pixels(form.Height)));
   CairoPainter painter(surface.get(), scale, cache_);
   form.paint(painter);
   return save(surface.get(), file);

@@ -3,7 +3,7 @@
 #include <string>
 
 #include "desktop/cairo_painter.hpp"
-#include "driver/driver.hpp"
+#include "driver/camera.hpp"
 
 namespace tombolario {
 
