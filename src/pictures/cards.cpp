@@ -55,17 +55,17 @@ void drawJoker(Painter& painter) {
 
 }  // namespace
 
-const PictureStore Picture1{"Picture1",
-                            0,
-                            kPack + 1,
-                            true,
-                            [](int card) { return card == kJoker ? kJokerCard : kVideoPokerCard; },
-                            [](Painter& painter, int card) {
-                              if (card == kJoker) {
-                                drawJoker(painter);
-                              } else {
-                                drawCard(painter, card, kVideoPokerCard, kVideoPokerSuits, kBlack);
-                              }
-                            }};
+constinit const PictureStore Picture1{"Picture1",
+                                      0,
+                                      kPack + 1,
+                                      true,
+                                      [](int card) { return card == kJoker ? kJokerCard : kVideoPokerCard; },
+                                      [](Painter& painter, int card) {
+                                        if (card == kJoker) {
+                                          drawJoker(painter);
+                                        } else {
+                                          drawCard(painter, card, kVideoPokerCard, kVideoPokerSuits, kBlack);
+                                        }
+                                      }};
 
 }  // namespace tombolario::pictures

@@ -3,8 +3,8 @@
 
 namespace tombolario::pictures {
 
-const PictureStore INICAT = plateStore<"NUOVA PARTITA", Size{240, 24}, kWhite, kRed>("INICAT");
-const PictureStore CoNTCAT = plateStore<"CONTINUA", Size{156, 22}, kWhite, kRed>("CoNTCAT");
-const PictureStore FINECA = plateStore<"FINE", Size{38, 14}, kWhite, kRed>("FINECA");
+constinit const PictureStore INICAT = plateStore<"NUOVA PARTITA", Size{240, 24}, kWhite, kRed>("INICAT");
+constinit const PictureStore CoNTCAT = plateStore<"CONTINUA", Size{156, 22}, kWhite, kRed>("CoNTCAT");
+constinit const PictureStore FINECA = plateStore<"FINE", Size{38, 14}, kWhite, kRed>("FINECA");
 
 }  // namespace tombolario::pictures

@@ -72,8 +72,8 @@ constexpr Size cursorSize(int) { return kCursorSize; }
 
 }  // namespace
 
-const PictureStore Label13{"Label13", 0, 1, false, cursorSize, drawPointingHand, {12, 1}};
-const PictureStore Label4{"Label4", 0, 1, false, cursorSize, drawClosedHand, {16, 14}};
-const PictureStore Label9{"Label9", 0, 1, false, cursorSize, drawArrow, {0, 1}};
+constinit const PictureStore Label13{"Label13", 0, 1, false, cursorSize, drawPointingHand, {12, 1}};
+constinit const PictureStore Label4{"Label4", 0, 1, false, cursorSize, drawClosedHand, {16, 14}};
+constinit const PictureStore Label9{"Label9", 0, 1, false, cursorSize, drawArrow, {0, 1}};
 
 }  // namespace tombolario::pictures

@@ -26,8 +26,7 @@ struct FixedText {
   char text[N]{};
 };
 
-/// A store of one plate. Its text keeps three pixels off its sides, or more where the control that shows it
-/// leaves less room, in pixels.
+/// A store of one plate; `kRoom` is the width left for its text, in pixels.
 template <FixedText kText, Size kSize, Rgb kInk, Rgb kGround, int kRoom = kSize.width - 6>
 constexpr PictureStore plateStore(std::string_view name) {
   return {name,

@@ -32,8 +32,10 @@ constexpr Size kOrnamentSize{100, 100};
 
 }  // namespace
 
-const PictureStore commpr{"commpr", 1, 6, true, [](int) { return kGameSize; }, drawGame};
-const PictureStore Picture3{"Picture3", 0, 1, false, [](int) { return kOrnamentSize; }, drawDiamond};
-const PictureStore Picture4{"Picture4", 0, 1, false, [](int) { return kOrnamentSize; }, drawDiamond};
+constinit const PictureStore commpr{"commpr", 1, 6, true, [](int) { return kGameSize; }, drawGame};
+constinit const PictureStore Picture3{"Picture3", 0, 1, false, [](int) { return kOrnamentSize; },
+                                      drawDiamond};
+constinit const PictureStore Picture4{"Picture4", 0, 1, false, [](int) { return kOrnamentSize; },
+                                      drawDiamond};
 
 }  // namespace tombolario::pictures

@@ -68,18 +68,20 @@ void drawStripes(Painter& painter, int) {
 
 }  // namespace
 
-const PictureStore Pictcomvidpok{"Pictcomvidpok", 0, 1, false, [](int) { return kPayTableSize; },
-                                 drawPayTable};
-const PictureStore segn{"segn", 0, kPayRows.size(), true, litRowSize, drawLitRow};
+constinit const PictureStore Pictcomvidpok{"Pictcomvidpok", 0, 1, false, [](int) { return kPayTableSize; },
+                                           drawPayTable};
+constinit const PictureStore segn{"segn", 0, kPayRows.size(), true, litRowSize, drawLitRow};
 // These four are wider than the buttons that show them, 169 pixels.
 constexpr int kButtonRoom = 155;
-const PictureStore CONTPOK1 =
+constinit const PictureStore CONTPOK1 =
     plateStore<"CONTINUA (-5)", Size{204, 18}, kRed, kCyan, kButtonRoom>("CONTPOK1");
-const PictureStore CONTPOK2 =
+constinit const PictureStore CONTPOK2 =
     plateStore<"CREDITO INSUFFICIENTE", Size{204, 18}, kRed, kCyan, kButtonRoom>("CONTPOK2");
-const PictureStore SALVPOK1 = plateStore<"SALVA", Size{205, 18}, kYellow, kRed, kButtonRoom>("SALVPOK1");
-const PictureStore SALVPOK2 =
+constinit const PictureStore SALVPOK1 =
+    plateStore<"SALVA", Size{205, 18}, kYellow, kRed, kButtonRoom>("SALVPOK1");
+constinit const PictureStore SALVPOK2 =
     plateStore<"NON SALVABILE", Size{205, 18}, kYellow, kRed, kButtonRoom>("SALVPOK2");
-const PictureStore striscie{"striscie", 0, 1, false, [](int) { return Size{432, 196}; }, drawStripes};
+constinit const PictureStore striscie{"striscie", 0, 1, false, [](int) { return Size{432, 196}; },
+                                      drawStripes};
 
 }  // namespace tombolario::pictures

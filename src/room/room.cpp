@@ -76,7 +76,8 @@ void Room::Screens::leadsBack(Button& button, Frame& screen) {
   button.onClick = [this, &screen] { changeScreen(screen, menu.Frameprincipale); };
 }
 
-/// The menu's labels keep the cursors of the room; every other control takes its own from there.
+/// The menu's labels keep the cursors of the room. What is always there takes its own here; what a game
+/// shows at each deal takes it at the deal.
 void Room::Screens::giveCursors() {
   giveCursor(menu.Label13.MouseIcon,
              {&menu.CLINK[1],       &menu.CLINK[2],       &videopoker.Command4, &videopoker.Command7,

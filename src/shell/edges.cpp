@@ -7,8 +7,10 @@ namespace tombolario {
 namespace {
 
 constexpr Rgb kShadow = classicPalette(SystemColour::ButtonShadow);
-constexpr double kTextMargin = 4;  // pixels kept free at either side of a text too wide for its box
 constexpr Rgb kLight = classicPalette(SystemColour::Light3d);
+
+/// Pixels kept free at either side of a text too wide for its box.
+constexpr double kTextMargin = 4;
 
 /// One pixel along the inside of the rectangle: left and top in one colour, right and bottom in another.
 void bevel(Painter& painter, const Rect& r, Rgb leftTop, Rgb rightBottom) {

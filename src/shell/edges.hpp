@@ -11,8 +11,7 @@ enum class Edge { Raised, Pressed, Sunken, Etched };
 void drawEdge(Painter& painter, const Rect& rect, Edge edge);
 
 /// Draws a caption in the box, its lines (parted by '\n') as one block in the middle. A dimmed one is
-/// engraved in grey. A line too wide for
-/// the box is set smaller.
+/// engraved in grey; a line too wide for the box is set smaller.
 void drawCaption(Painter& painter, const Rect& box, std::string_view caption, const Font& font, Rgb colour,
                  Align align, bool dimmed);
 

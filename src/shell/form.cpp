@@ -71,7 +71,7 @@ PictureId Form::cursor() {
   return live(control) && control->MousePointer == kCustomPointer ? control->MouseIcon.get() : PictureId{};
 }
 
-void Form::draw(Painter& painter) {
+void Form::repaint(Painter& painter) {
   paint(painter);
   needsDrawing_ = false;
 }

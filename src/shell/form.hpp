@@ -28,10 +28,10 @@ class Form : public Control {
   /// Whether the left button holds the control down at this moment.
   bool holdsDown(const Control& control) const { return &control == sunken_; }
 
-  /// True from a change that can be seen until the next drawing.
+  /// True from a change that can be seen until the next repaint.
   bool needsDrawing() const { return needsDrawing_; }
   void redraw() { needsDrawing_ = true; }
-  void draw(Painter& painter);
+  void repaint(Painter& painter);
 
   /// The control of that name, as `Command8` or `Pict(3)`, the window itself too; null if there is none.
   Control* find(std::string_view wanted);

@@ -70,9 +70,9 @@ Scoring score(const Hand& hand) {
   if (s.coppieVP == 0) on(kNothing);
 
   // The joker completes a straight flush, low or ace high.
-  const auto fourInSuit = [&] { return jollyVP && s.coppieVP == 0 && s.colorePariVP == 6; };
-  if (fourInSuit() && (d03 <= 4 || (ace && ordinatiVP[1] >= 9 && d13 <= 3))) {
-    off({kNothing, kStraight, kFlush, kRedFlush});
+  const bool fourInSuit = jollyVP && s.coppieVP == 0 && s.colorePariVP == 6;
+  if (fourInSuit && (d03 <= 4 || (ace && ordinatiVP[1] >= 9 && d13 <= 3))) {
+    off({kNothing});
     on(kStraightFlush);
     jollyVP = false;
   }
@@ -104,7 +104,6 @@ Scoring score(const Hand& hand) {
       case 6: s.coppieVP = 12; break;
       default: break;
     }
-    jollyVP = false;
   }
 
   if (s.coppieVP == 1) on(kPair);
