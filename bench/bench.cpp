@@ -48,7 +48,7 @@ void repaint(benchmark::State& state, std::initializer_list<const char*> way) {
   PainterCache cache;
   for ([[maybe_unused]] auto frame : state) {
     CairoPainter painter(surface.get(), scale, cache);
-    played.form.draw(painter);
+    played.form.repaint(painter);
     cairo_surface_flush(surface.get());
   }
 }

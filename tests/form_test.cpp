@@ -195,7 +195,7 @@ TEST_F(FormTest, OnlyAChangeAsksForDrawing) {
   NullPainter painter;
   const auto drawn = [&] {
     const bool needed = form.needsDrawing();
-    form.draw(painter);
+    form.repaint(painter);
     return needed;
   };
   drawn();
