@@ -8,7 +8,7 @@
 #include "driver/cairo_camera.hpp"
 #include "pictures/catalogue.hpp"
 #include "session.hpp"
-#include "shell/edges.hpp"
+#include "shell/caption.hpp"
 
 namespace tombolario {
 namespace {

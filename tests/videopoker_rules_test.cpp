@@ -7,17 +7,6 @@
 namespace tombolario::videopoker {
 namespace {
 
-TEST(VideoPokerRules, ARunEndsAtItsTenthDeal) {
-  ScriptedSource source;
-  VideoPoker game;
-  game.begin();
-  for (int deal = 1; deal <= 9; ++deal) EXPECT_FALSE(game.avvioVIDEO(source)) << deal;
-  EXPECT_TRUE(game.avvioVIDEO(source));
-  EXPECT_TRUE(game.goOn());
-  for (int deal = 1; deal <= 9; ++deal) EXPECT_FALSE(game.avvioVIDEO(source)) << deal;
-  EXPECT_TRUE(game.avvioVIDEO(source));
-}
-
 TEST(VideoPokerRules, GoingOnAndLoadingCostFiveAndNeedMore) {
   VideoPoker game;
   game.begin();

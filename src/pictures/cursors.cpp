@@ -1,6 +1,4 @@
 #include <array>
-#include <cmath>
-#include <numbers>
 #include <span>
 
 #include "pictures/catalogue.hpp"

@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "shell/edges.hpp"
+#include "shell/caption.hpp"
 
 namespace tombolario::pictures {
 

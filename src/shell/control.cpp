@@ -1,7 +1,5 @@
 #include "shell/control.hpp"
 
-#include <algorithm>
-
 #include "shell/form.hpp"
 
 namespace tombolario {

@@ -65,7 +65,8 @@ class Control {
   bool operable() const;
   /// Its top left corner in twips of the window.
   Point origin() const;
-  /// The topmost control on view under the point, which is relative to this control and inside it.
+  /// The topmost visible control here that takes the mouse at the point, which is relative to this control;
+  /// null if the point is outside or the control itself is hidden.
   Control* at(Point point);
   /// Draws the control and what lies in it, from its own top left corner.
   void paint(Painter& painter) const;

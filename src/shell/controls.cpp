@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "shell/caption.hpp"
 #include "shell/edges.hpp"
 #include "shell/form.hpp"
 

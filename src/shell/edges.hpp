@@ -1,6 +1,6 @@
 #pragma once
 
-#include "shell/control.hpp"
+#include "shell/painter.hpp"
 
 namespace tombolario {
 
@@ -9,16 +9,5 @@ enum class Edge { Raised, Pressed, Sunken, Etched };
 
 /// Draws the edge just inside the rectangle, one or two pixels wide.
 void drawEdge(Painter& painter, const Rect& rect, Edge edge);
-
-/// Draws a caption in the box, its lines (parted by '\n') as one block in the middle. A dimmed one is
-/// engraved in grey; a line too wide for the box is set smaller.
-void drawCaption(Painter& painter, const Rect& box, std::string_view caption, const Font& font, Rgb colour,
-                 Align align, bool dimmed);
-
-/// The font, or a smaller cut of it in which the text is no wider than that many pixels.
-Font fittingFont(Painter& painter, std::string_view text, Font font, double width);
-
-/// The distance between two lines of text, in pixels.
-double lineHeight(const Font& font);
 
 }  // namespace tombolario

@@ -13,7 +13,7 @@ class PictureId;
 /// A type of the room: a plain sans serif, or a very heavy one for banners and pictures.
 enum class Face { Sans, Heavy };
 
-/// A font by type, height in points (96 points of it make 128 pixels) and weight.
+/// A font by type, height in points (72 points are 96 pixels) and weight.
 struct Font {
   Face face = Face::Sans;
   double points = 8.25;

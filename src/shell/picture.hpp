@@ -18,8 +18,6 @@ struct PictureStore {
   Size (*size)(int index);                    ///< in pixels
   void (*draw)(Painter& painter, int index);  ///< from (0,0) to the size
   Vec hotSpot{};                              ///< of a cursor: the pixel that points
-
-  bool holds(int index) const { return index >= first && index < first + count; }
 };
 
 /// A picture by its store and its index, or no picture at all. Cheap to copy and to compare.
