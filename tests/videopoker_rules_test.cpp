@@ -45,12 +45,12 @@ TEST(VideoPokerRules, MarkedCardsTakeTheReplacementsFromLeftToRight) {
     VideoPoker game;
     game.begin();
     game.avvioVIDEO(source);
-    std::array<bool, kHandSize> marked{};
-    for (std::size_t i = 0; i < kHandSize; ++i) marked[i] = (marks >> i & 1) != 0;
+    Marks marked{};
+    for (int i = 0; i < kHandSize; ++i) marked[i] = (marks >> i & 1) != 0;
     const auto from = game.change(marked);
     int next = kHandSize;
-    for (std::size_t i = 0; i < kHandSize; ++i) {
-      const int slot = marked[i] ? next++ : static_cast<int>(i);
+    for (int i = 0; i < kHandSize; ++i) {
+      const int slot = marked[i] ? next++ : i;
       EXPECT_EQ(from[i], slot);
       EXPECT_EQ(game.hand().value[i], slot * 5 % 13);
       EXPECT_EQ(game.hand().suit[i], slot * 5 / 13 + 1);

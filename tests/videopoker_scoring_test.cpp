@@ -15,12 +15,12 @@ namespace {
 
 constexpr int kJokerCard = 52;
 
-Hand handOf(const std::array<int, kHandSize>& cards) {
+Hand handOf(const OfHand<int>& cards) {
   Hand hand;
-  for (std::size_t i = 0; i < kHandSize; ++i) {
-    const bool joker = cards[i] == kJokerCard;
-    hand.value[i] = static_cast<std::int16_t>(joker ? 14 : cards[i] % 13);
-    hand.suit[i] = static_cast<std::int16_t>(joker ? 5 : cards[i] / 13 + 1);
+  for (int i = 0; i < kHandSize; ++i) {
+    const int card = cards[i];
+    hand.value[i] = static_cast<std::int16_t>(card == kJokerCard ? 14 : card % 13);
+    hand.suit[i] = static_cast<std::int16_t>(card == kJokerCard ? 5 : card / 13 + 1);
   }
   return hand;
 }
@@ -40,7 +40,7 @@ Row plainRow(const Hand& hand) {
   std::set<int> values;
   std::set<int> suits;
   bool joker = false;
-  for (std::size_t i = 0; i < kHandSize; ++i) {
+  for (int i = 0; i < kHandSize; ++i) {
     if (hand.value[i] == 14) {
       joker = true;
       continue;
@@ -73,7 +73,7 @@ Row plainRow(const Hand& hand) {
   return aceAndThree ? kStraight : kPair;
 }
 
-Group plainGroup(const Hand& hand, Row row, std::size_t position) {
+Group plainGroup(const Hand& hand, Row row, int position) {
   const auto times = [&](int value) { return std::count(hand.value.begin(), hand.value.end(), value); };
   const auto rank = [](int value) { return value == 0 ? 13 : value; };
   const int value = hand.value[position];
@@ -93,7 +93,7 @@ TEST(Scoring, AgreesWithThePlainDescriptionOnEveryHand) {
   constexpr int kStep = kSanitized ? 61 : 1;
   std::array<long, kRows> rows{};
   long hands = 0;
-  std::array<int, 5> c{};
+  OfHand<int> c{};
   for (c[0] = 0; c[0] <= 52; ++c[0])
     for (c[1] = c[0] + 1; c[1] <= 52; ++c[1])
       for (c[2] = c[1] + 1; c[2] <= 52; ++c[2])
@@ -109,7 +109,7 @@ TEST(Scoring, AgreesWithThePlainDescriptionOnEveryHand) {
             ++rows[row];
             bool agrees =
                 std::count(scoring.lit.begin(), scoring.lit.end(), true) == 1 && scoring.row() == row;
-            for (std::size_t i = 0; i < kHandSize; ++i) {
+            for (int i = 0; i < kHandSize; ++i) {
               agrees = agrees && groupOf(scoring, hand.value[i]) == plainGroup(hand, row, i);
             }
             ASSERT_TRUE(agrees) << cards[0] << ' ' << cards[1] << ' ' << cards[2] << ' ' << cards[3] << ' '
@@ -127,7 +127,7 @@ TEST(Scoring, AgreesWithThePlainDescriptionOnEveryHand) {
 }
 
 struct Example {
-  std::array<int, 5> cards;
+  OfHand<int> cards;
   Row row;
 };
 

@@ -11,18 +11,21 @@ namespace tombolario::pictures {
 
 namespace {
 
+/// The colours of a pack.
+using Suits = Slots<Rgb, 0, kSuits - 1>;
+
 /// A flat card in the colour of its suit, its value large in the middle.
-void drawCard(Painter& painter, int card, Size size, const std::array<Rgb, kSuits>& suits, Rgb ink) {
+void drawCard(Painter& painter, int card, Size size, const Suits& suits, Rgb ink) {
   const Rect all{0, 0, static_cast<double>(size.width), static_cast<double>(size.height)};
-  painter.fillRect(all, suits.at(static_cast<std::size_t>(card / kValues)));
-  fittedText(painter, all.inset(size.width * 0.08), kValueNames.at(static_cast<std::size_t>(card % kValues)),
+  painter.fillRect(all, suits[card / kValues]);
+  fittedText(painter, all.inset(size.width * 0.08), kValueNames[card % kValues],
              lettering(size.height * 0.36), ink);
 }
 
 constexpr int kJoker = kPack;
 constexpr Size kVideoPokerCard{70, 92};
 constexpr Size kJokerCard{70, 93};
-constexpr std::array<Rgb, kSuits> kVideoPokerSuits{kRed, kYellow, 0x00E8E8, kGreen};
+constexpr Suits kVideoPokerSuits{kRed, kYellow, 0x00E8E8, kGreen};
 
 /// A ball of many gores that meet a little above its middle, with a light on it.
 void drawBall(Painter& painter, Vec centre, double radius) {

@@ -3,22 +3,23 @@
 
 #include "pictures/catalogue.hpp"
 #include "pictures/lettering.hpp"
+#include "shell/slots.hpp"
 
 namespace tombolario::pictures {
 
 namespace {
 
 constexpr Size kGameSize{166, 18};
-constexpr std::array<const char*, 6> kGames{"POKER",        "VIDEOPOKER", "DOMINO",
-                                            "DOMINO/POKER", "RAMINO",     "MAHJONGG"};
+constexpr Slots<const char*, 1, 6> kGames{"POKER",        "VIDEOPOKER", "DOMINO",
+                                          "DOMINO/POKER", "RAMINO",     "MAHJONGG"};
 
 /// The number of the game at the left, then its name, white on red.
 void drawGame(Painter& painter, int index) {
   painter.fillRect({0, 0, kGameSize.width, kGameSize.height}, kRed);
   const Font font = lettering(11);
   painter.text({12, 0, 20, kGameSize.height}, std::to_string(index), font, kWhite, Align::Left);
-  fittedText(painter, {40, 0, kGameSize.width - 46, kGameSize.height},
-             kGames.at(static_cast<std::size_t>(index - 1)), font, kWhite, Align::Left);
+  fittedText(painter, {40, 0, kGameSize.width - 46, kGameSize.height}, kGames[index], font, kWhite,
+             Align::Left);
 }
 
 /// A red diamond on white, in a black border.

@@ -1,7 +1,6 @@
-#include <array>
-
 #include "pictures/catalogue.hpp"
 #include "pictures/lettering.hpp"
+#include "shell/slots.hpp"
 
 namespace tombolario::pictures {
 
@@ -17,23 +16,23 @@ struct PayRow {
   double middle;
   int height;
 };
-constexpr std::array<PayRow, 11> kPayRows{{{"mano nulla", "-1", 0, 9, 19},
-                                           {"coppia", "0", 290 / 15.0, 7.7, 19},
-                                           {"doppia coppia", "2", 38, 6.9, 17},
-                                           {"tris", "4", 800 / 15.0, 8.5, 17},
-                                           {"scala", "5", 70, 8.6, 17},
-                                           {"full", "7", 1310 / 15.0, 8.3, 17},
-                                           {"colore", "8", 104, 8.5, 17},
-                                           {"colore rosso", "10", 1810 / 15.0, 8.8, 17},
-                                           {"poker", "12", 138, 8.5, 17},
-                                           {"scala reale", "15", 2330 / 15.0, 8.2, 17},
-                                           {"pokerissimo", "18", 2560 / 15.0, 10.3, 20}}};
+constexpr Slots<PayRow, 0, 10> kPayRows{{{{"mano nulla", "-1", 0, 9, 19},
+                                          {"coppia", "0", 290 / 15.0, 7.7, 19},
+                                          {"doppia coppia", "2", 38, 6.9, 17},
+                                          {"tris", "4", 800 / 15.0, 8.5, 17},
+                                          {"scala", "5", 70, 8.6, 17},
+                                          {"full", "7", 1310 / 15.0, 8.3, 17},
+                                          {"colore", "8", 104, 8.5, 17},
+                                          {"colore rosso", "10", 1810 / 15.0, 8.8, 17},
+                                          {"poker", "12", 138, 8.5, 17},
+                                          {"scala reale", "15", 2330 / 15.0, 8.2, 17},
+                                          {"pokerissimo", "18", 2560 / 15.0, 10.3, 20}}}};
 
 constexpr Size kPayTableSize{156, 191};
 
 Size litRowSize(int row) {
   const int width = row >= 3 && row <= 9 ? 167 : kPayTableSize.width;
-  return {width, kPayRows.at(static_cast<std::size_t>(row)).height};
+  return {width, kPayRows[row].height};
 }
 
 void drawPayRow(Painter& painter, const PayRow& row) {
@@ -55,14 +54,14 @@ void drawPayTable(Painter& painter, int) {
 void drawLitRow(Painter& painter, int row) {
   const Size size = litRowSize(row);
   painter.fillRect({0, 0, static_cast<double>(size.width), static_cast<double>(size.height)}, kBlue);
-  drawPayRow(painter, kPayRows.at(static_cast<std::size_t>(row)));
+  drawPayRow(painter, kPayRows[row]);
 }
 
 /// Vertical stripes, twelve pixels each.
 void drawStripes(Painter& painter, int) {
-  constexpr std::array<Rgb, 4> kColours{kRed, kCyan, kBlue, kYellow};
+  constexpr Slots<Rgb, 0, 3> kColours{kRed, kCyan, kBlue, kYellow};
   for (int i = 0; i < 36; ++i) {
-    painter.fillRect({i * 12.0, 0, 12, 196}, kColours.at(static_cast<std::size_t>(i) % kColours.size()));
+    painter.fillRect({i * 12.0, 0, 12, 196}, kColours[i % 4]);
   }
 }
 
@@ -70,7 +69,7 @@ void drawStripes(Painter& painter, int) {
 
 constinit const PictureStore Pictcomvidpok{"Pictcomvidpok", 0, 1, false, [](int) { return kPayTableSize; },
                                            drawPayTable};
-constinit const PictureStore segn{"segn", 0, kPayRows.size(), true, litRowSize, drawLitRow};
+constinit const PictureStore segn{"segn", 0, 11, true, litRowSize, drawLitRow};
 // These four are wider than the buttons that show them, 169 pixels.
 constexpr int kButtonRoom = 155;
 constinit const PictureStore CONTPOK1 =

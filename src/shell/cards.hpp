@@ -1,8 +1,9 @@
 #pragma once
 
-#include <array>
 #include <cstdint>
 #include <span>
+
+#include "shell/slots.hpp"
 
 namespace tombolario {
 
@@ -13,8 +14,8 @@ inline constexpr int kSuits = 4;
 inline constexpr int kPack = kValues * kSuits;
 
 /// What is drawn on a card of each value, 0 to 12: the ace has the lowest number.
-inline constexpr std::array<const char*, kValues> kValueNames{"A", "2", "3",  "4", "5", "6", "7",
-                                                              "8", "9", "10", "J", "Q", "K"};
+inline constexpr Slots<const char*, 0, kValues - 1> kValueNames{"A", "2", "3",  "4", "5", "6", "7",
+                                                                "8", "9", "10", "J", "Q", "K"};
 
 /// Fills the tables from card number to value (0 to 12) and suit (1 to 4); both have at least 52 entries,
 /// those beyond are left alone.

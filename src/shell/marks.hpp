@@ -1,6 +1,7 @@
 #pragma once
 
 #include "shell/control.hpp"
+#include "shell/hand.hpp"
 
 namespace tombolario {
 
@@ -15,6 +16,14 @@ inline void toggleMark(Control& frame) {
   } else if (frame.BackColor == kMarked) {
     frame.BackColor = kAtRest;
   }
+}
+
+/// The marks on the cards of a hand, read from its frames, 0 to 4.
+template <class Frames>
+Marks marksOf(Frames& frames) {
+  Marks marked{};
+  for (int i = 0; i < kHandSize; ++i) marked[i] = frames[i].BackColor == kMarked;
+  return marked;
 }
 
 }  // namespace tombolario

@@ -45,21 +45,18 @@ bool VideoPoker::avvioVIDEO(UniformSource& uniform) {
   uniform.seedFromClock();
   mescola(uniform, mazzoVP, 0, kShuffled - 1, kCards);
   ++maniVP;
-  for (std::size_t slot = 0; slot < kSlots; ++slot) {
-    valoreVP[slot] = valoreCartaVP.at(static_cast<std::size_t>(mazzoVP[slot]));
-    semeVP[slot] = semeCartaVP.at(static_cast<std::size_t>(mazzoVP[slot]));
+  for (int slot = 0; slot < kSlots; ++slot) {
+    valoreVP[slot] = valoreCartaVP[card(slot)];
+    semeVP[slot] = semeCartaVP[card(slot)];
   }
   return maniVP == kRunDeals;
 }
 
-std::array<int, kHandSize> VideoPoker::change(const std::array<bool, kHandSize>& marked) {
-  std::array<int, kHandSize> from{};
-  std::size_t next = kHandSize;
-  for (std::size_t i = 0; i < kHandSize; ++i) {
-    const std::size_t slot = marked[i] ? next++ : i;
-    valoreVP[i] = valoreVP[slot];
-    semeVP[i] = semeVP[slot];
-    from[i] = static_cast<int>(slot);
+OfHand<int> VideoPoker::change(const Marks& marked) {
+  const auto from = slotsAfterChange(marked);
+  for (int i = 0; i < kHandSize; ++i) {
+    valoreVP[i] = valoreVP[from[i]];
+    semeVP[i] = semeVP[from[i]];
   }
   return from;
 }

@@ -1,6 +1,5 @@
 #pragma once
 
-#include <array>
 #include <cstdint>
 
 #include "shell/cards.hpp"
@@ -33,11 +32,11 @@ class VideoPoker {
   bool avvioVIDEO(UniformSource& uniform);
   /// Changes the marked cards of the hand, from left to right, for the replacements in their order. Gives
   /// the slot that each position has its card from: its own where it was not marked.
-  std::array<int, kHandSize> change(const std::array<bool, kHandSize>& marked);
+  OfHand<int> change(const Marks& marked);
   /// Adds the amount of a lit row to the balance, which never leaves 16 bits.
   void pay(Row row);
 
-  int card(int slot) const { return mazzoVP.at(static_cast<std::size_t>(slot)); }
+  int card(int slot) const { return mazzoVP[slot]; }
   Hand hand() const;
   int balance() const { return saldoVP; }
   /// Gain or loss over the run, the fee counted as a loss.
@@ -51,11 +50,11 @@ class VideoPoker {
   std::int16_t saldoInizioVP = 0;  ///< balance at the start of the run
   std::int16_t saldoFileVP = 0;    ///< what was last read from the file
   std::int16_t maniVP = 0;         ///< deals of the run
-  std::array<std::int16_t, kCards> valoreCartaVP{};
-  std::array<std::int16_t, kCards> semeCartaVP{};
-  std::array<std::int16_t, kCards> mazzoVP{};  ///< card numbers in dealt order; one of the 53 stays out
-  std::array<std::int16_t, kSlots> valoreVP{};
-  std::array<std::int16_t, kSlots> semeVP{};
+  Numbers<0, kCards - 1> valoreCartaVP{};
+  Numbers<0, kCards - 1> semeCartaVP{};
+  Numbers<0, kCards - 1> mazzoVP{};  ///< card numbers in dealt order; one of the 53 stays out
+  Numbers<0, kSlots - 1> valoreVP{};
+  Numbers<0, kSlots - 1> semeVP{};
 };
 
 }  // namespace tombolario::videopoker

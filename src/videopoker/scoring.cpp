@@ -11,20 +11,6 @@ namespace {
 /// A joker with four unrelated cards counts as a pair of this value, which no card has.
 constexpr std::int16_t kNoCardValue = 15;
 
-int times(const Hand& hand, std::int16_t value) {
-  return static_cast<int>(std::count(hand.value.begin(), hand.value.end(), value));
-}
-
-/// Counts the pairs of positions with equal value and with equal suit.
-void countPairs(const Hand& hand, Scoring& s) {
-  for (std::size_t i = 0; i < kHandSize; ++i) {
-    for (std::size_t j = i + 1; j < kHandSize; ++j) {
-      if (hand.value[i] == hand.value[j]) ++s.coppieVP;
-      if (hand.suit[i] == hand.suit[j]) ++s.colorePariVP;
-    }
-  }
-}
-
 /// Finds the values of the groups of equal cards. Of two groups the one that counts more comes first: the
 /// three of a full house, else the higher pair, and aces before all.
 void findGroups(const Hand& hand, Scoring& s) {
@@ -38,20 +24,15 @@ void findGroups(const Hand& hand, Scoring& s) {
   if (wrongWayRound) std::swap(s.gruppiVP[0], s.gruppiVP[1]);
 }
 
-/// The values in ascending order, the ace lowest; a joker stands last, as 14.
-std::array<std::int16_t, kHandSize> sortedValues(const Hand& hand) {
-  auto values = hand.value;
-  std::sort(values.begin(), values.end());
-  return values;
-}
-
 }  // namespace
 
 Row Scoring::row() const { return static_cast<Row>(std::find(lit.begin(), lit.end(), true) - lit.begin()); }
 
 Scoring score(const Hand& hand) {
   Scoring s;
-  countPairs(hand, s);
+  const LikePairs pairs = countLikePairs(hand);
+  s.coppieVP = pairs.inValue;
+  s.colorePariVP = pairs.inSuit;
   findGroups(hand, s);
   const auto ordinatiVP = sortedValues(hand);
   bool jollyVP = ordinatiVP[4] == kJokerValue;  // held, and not yet used

@@ -3,9 +3,10 @@
 #include <array>
 #include <cstdint>
 
+#include "shell/hand.hpp"
+
 namespace tombolario::videopoker {
 
-inline constexpr int kHandSize = 5;
 inline constexpr int kRows = 11;
 
 /// The joker takes the place of one card when a hand is scored.
@@ -29,12 +30,6 @@ enum Row {
 
 /// What each row adds to the balance.
 inline constexpr std::array<std::int16_t, kRows> kPay{-1, 0, 2, 4, 5, 7, 8, 10, 12, 15, 18};
-
-/// Values (0 to 12, the ace 0; the joker 14) and suits (1 to 4; the joker 5) of five cards.
-struct Hand {
-  std::array<std::int16_t, kHandSize> value{};
-  std::array<std::int16_t, kHandSize> suit{};
-};
 
 /// What the recognition of a hand finds.
 struct Scoring {

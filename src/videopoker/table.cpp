@@ -92,16 +92,14 @@ void Table::Command3_Click() {
 }
 
 void Table::changeMarkedCards() {
-  std::array<bool, kHandSize> marked{};
-  for (int i = 0; i < kHandSize; ++i) marked.at(static_cast<std::size_t>(i)) = Frame1[i].BackColor == kMarked;
-  const auto from = game_.change(marked);
-  for (int i = 0; i < kHandSize; ++i) Pict[i].Picture = Pict[from.at(static_cast<std::size_t>(i))].Picture;
+  const auto from = game_.change(marksOf(Frame1));
+  for (int i = 0; i < kHandSize; ++i) Pict[i].Picture = Pict[from[i]].Picture;
 }
 
 void Table::showGroups(const Scoring& scoring) {
   const Hand hand = game_.hand();
   for (int i = 0; i < kHandSize; ++i) {
-    switch (groupOf(scoring, hand.value.at(static_cast<std::size_t>(i)))) {
+    switch (groupOf(scoring, hand.value[i])) {
       case Group::None: break;
       case Group::First: Frame1[i].BackColor = kFirstGroup; break;
       case Group::Second: Frame1[i].BackColor = kSecondGroup; break;

@@ -1,7 +1,5 @@
 #pragma once
 
-#include <array>
-
 #include "pictures/catalogue.hpp"
 #include "shell/control_array.hpp"
 #include "shell/controls.hpp"
@@ -61,11 +59,11 @@ class Table {
   PictureBox Pictcomvidpok{Frame3BIS, "Pictcomvidpok", {7320, 5040, 2370, 2895},
                            {.back = kRed, .border = Border::Single, .picture = pictures::Pictcomvidpok}};
   ControlArray<PictureBox, 0, 10> segn{[this](int k) {
-    constexpr std::array kTops{0, 290, 570, 800, 1050, 1310, 1560, 1810, 2070, 2330, 2560};
+    constexpr Slots<int, 0, 10> kTops{0, 290, 570, 800, 1050, 1310, 1560, 1810, 2070, 2330, 2560};
     const PictureId row(pictures::segn, k);
     const auto [width, height] = row.size();
     return PictureBox{Pictcomvidpok, {"segn", k},
-                      {0, kTops.at(static_cast<std::size_t>(k)), width * kTwipsPerPixel, height * kTwipsPerPixel},
+                      {0, kTops[k], width * kTwipsPerPixel, height * kTwipsPerPixel},
                       {.picture = row, .visible = false}}; }};
   // clang-format on
 
