@@ -19,7 +19,8 @@ TEST(Catalogue, HoldsEachPictureOnceAtItsSize) {
       {"Picture1(52)", {70, 93}}, {"Pictcomvidpok", {156, 191}}, {"CONTPOK1", {204, 18}},
       {"CONTPOK2", {204, 18}},    {"SALVPOK1", {205, 18}},       {"SALVPOK2", {205, 18}},
       {"striscie", {432, 196}},   {"INICAT", {240, 24}},         {"CoNTCAT", {156, 22}},
-      {"FINECA", {38, 14}},
+      {"FINECA", {38, 14}},       {"Picture11(0)", {70, 92}},    {"Picture11(51)", {70, 92}},
+      {"ufo", {72, 94}},          {"Pictcompok", {150, 137}},    {"Picture5", {165, 81}},
   };
   std::set<std::string> names;
   for (const PictureStore* store : pictures::catalogue()) {
@@ -32,6 +33,7 @@ TEST(Catalogue, HoldsEachPictureOnceAtItsSize) {
     EXPECT_EQ(pictures::find(name).size(), size) << name;
   }
   EXPECT_EQ(pictures::Picture1.count, 53);
+  EXPECT_EQ(pictures::Picture11.count, 52);
   for (int row = 0; row <= 10; ++row) {
     const auto [width, height] = PictureId(pictures::segn, row).size();
     EXPECT_EQ(width, row >= 3 && row <= 9 ? 167 : 156);

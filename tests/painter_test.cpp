@@ -110,6 +110,35 @@ TEST(CairoPainter, APictureIsDrawnOnceAScaleAndLooksAsDrawnDirectly) {
   }
 }
 
+/// How many lines of text lie below each other in a captioned box, none of it near its sides.
+int linesSeen(const char* caption, Size size) {
+  Canvas canvas(size, 2);
+  const Rect box{0, 0, static_cast<double>(size.width), static_cast<double>(size.height)};
+  canvas.painter.fillRect(box, kWhite);
+  drawCaption(canvas.painter, box, caption, {.points = 9.75, .bold = true}, kBlack, Align::Centre, false);
+  int lines = 0;
+  bool inText = false;
+  for (int y = 0; y < canvas.height(); ++y) {
+    bool ink = false;
+    for (int x = 0; x < canvas.width(); ++x) {
+      if (canvas.pixel(x, y) == kWhite) continue;
+      ink = true;
+      EXPECT_TRUE(x >= 4 && x < canvas.width() - 4) << caption;
+    }
+    lines += ink && !inText;
+    inText = ink;
+  }
+  return lines;
+}
+
+TEST(Captions, BreakAtTheirBlanksWhereTheBoxIsTallEnough) {
+  EXPECT_EQ(linesSeen("CAMBIA CARTE", {65, 33}), 2);
+  EXPECT_EQ(linesSeen("CAMBIA CARTE", {65, 32}), 1);
+  EXPECT_EQ(linesSeen("CAMBIA CARTE", {150, 33}), 1);
+  EXPECT_EQ(linesSeen("CAMBIA TUTTE CARTE", {65, 60}), 3);
+  EXPECT_EQ(linesSeen("CAMBIACARTE", {65, 60}), 1);
+}
+
 /// Every colour that is told of a picture is found in it, in more than stray pixels.
 TEST(Pictures, ShowTheirGroundAndInk) {
   struct Told {
@@ -130,6 +159,13 @@ TEST(Pictures, ShowTheirGroundAndInk) {
                                {"SALVPOK1", {kRed, kYellow}},
                                {"SALVPOK2", {kRed, kYellow}},
                                {"striscie", {kRed, kCyan, kBlue, kYellow}},
+                               {"Picture11(0)", {0xFF00FF, kBlack}},
+                               {"Picture11(13)", {0xFF8040, kBlack}},
+                               {"Picture11(38)", {0xFFFFB3, kBlack}},
+                               {"Picture11(39)", {kBlue, kBlack}},
+                               {"ufo", {kYellow, 0x808080}},
+                               {"Pictcompok", {kBlue, kWhite}},
+                               {"Picture5", {kWhite, kBlack}},
                                {"FINECA", {kRed, kWhite}}};
   for (const auto& [name, colours] : told) {
     const PictureId picture = pictures::find(name);
@@ -178,7 +214,8 @@ TEST(Pictures, ALitRowLiesRightOnItsRowOfThePayTable) {
 /// are pure ground.
 TEST(Pictures, TheTextOfAPlateKeepsOffItsEdge) {
   for (const double scale : {1.0, 1.25, 1.5, 2.0, 3.3}) {
-    for (const char* name : {"commpr(4)", "CONTPOK2", "SALVPOK2", "INICAT", "CoNTCAT", "FINECA"}) {
+    for (const char* name :
+         {"commpr(4)", "CONTPOK2", "SALVPOK2", "INICAT", "CoNTCAT", "FINECA", "Pictcompok"}) {
       const PictureId picture = pictures::find(name);
       Canvas canvas(picture.size(), scale);
       picture.draw(canvas.painter);

@@ -27,6 +27,9 @@ constexpr Size kVideoPokerCard{70, 92};
 constexpr Size kJokerCard{70, 93};
 constexpr Suits kVideoPokerSuits{kRed, kYellow, 0x00E8E8, kGreen};
 
+constexpr Size kPokerCard{70, 92};
+constexpr Suits kPokerSuits{0xFF00FF, 0xFF8040, 0xFFFFB3, kBlue};
+
 /// A ball of many gores that meet a little above its middle, with a light on it.
 void drawBall(Painter& painter, Vec centre, double radius) {
   constexpr std::array<Rgb, 8> kGores{kRed, 0xFF8040, kYellow, kGreen, 0x00E8E8, kBlue, 0x8000FF, 0xFF00FF};
@@ -70,5 +73,13 @@ constinit const PictureStore Picture1{"Picture1",
                                           drawCard(painter, card, kVideoPokerCard, kVideoPokerSuits, kBlack);
                                         }
                                       }};
+
+constinit const PictureStore Picture11{
+    "Picture11",
+    0,
+    kPack,
+    true,
+    [](int) { return kPokerCard; },
+    [](Painter& painter, int card) { drawCard(painter, card, kPokerCard, kPokerSuits, kBlack); }};
 
 }  // namespace tombolario::pictures

@@ -6,9 +6,10 @@ namespace tombolario::pictures {
 
 namespace {
 
-constexpr std::array kStores{&commpr,   &Picture3,      &Picture4, &Label13,  &Label4,   &Label9,
-                             &Picture1, &Pictcomvidpok, &segn,     &CONTPOK1, &CONTPOK2, &SALVPOK1,
-                             &SALVPOK2, &striscie,      &INICAT,   &CoNTCAT,  &FINECA};
+constexpr std::array kStores{&commpr,   &Picture3,  &Picture4,      &Label13, &Label4,     &Label9,
+                             &Picture1, &Picture11, &Pictcomvidpok, &segn,    &CONTPOK1,   &CONTPOK2,
+                             &SALVPOK1, &SALVPOK2,  &striscie,      &ufo,     &Pictcompok, &Picture5,
+                             &INICAT,   &CoNTCAT,   &FINECA};
 
 }  // namespace
 

@@ -11,9 +11,11 @@ namespace tombolario::pictures {
 // The main menu; the last three are cursors.
 extern const PictureStore commpr, Picture3, Picture4, Label13, Label4, Label9;
 // The packs of cards.
-extern const PictureStore Picture1;
+extern const PictureStore Picture1, Picture11;
 // Video poker.
 extern const PictureStore Pictcomvidpok, segn, CONTPOK1, CONTPOK2, SALVPOK1, SALVPOK2, striscie;
+// Poker against the computer; the first is the back of a card.
+extern const PictureStore ufo, Pictcompok, Picture5;
 // The chain game.
 extern const PictureStore INICAT, CoNTCAT, FINECA;
 

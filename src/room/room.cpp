@@ -25,7 +25,7 @@ struct Room::Screens {
 
   Form form{"Form1", kClientArea, kBlue, "Tombolario"};
   MainMenu menu;
-  poker::Table poker{form};
+  poker::Table poker;
   videopoker::Table videopoker;
   domino::Table domino{form};
   chain::Table chain{form};
@@ -42,7 +42,7 @@ struct Room::Screens {
   void giveCursors();
 };
 
-Room::Screens::Screens(Host& host) : menu(form, host), videopoker(form, host) {
+Room::Screens::Screens(Host& host) : menu(form, host), poker(form, host), videopoker(form, host) {
   opens(1, poker.Frame2);
   opens(2, videopoker.Frame3);
   opens(3, domino.FRAME5);
@@ -82,19 +82,24 @@ void Room::Screens::giveCursors() {
   giveCursor(menu.Label13.MouseIcon,
              {&menu.CLINK[1],       &menu.CLINK[2],       &videopoker.Command4, &videopoker.Command7,
               &videopoker.Command8, &videopoker.Command9, &videopoker.Command1, &videopoker.Command3,
-              &videopoker.Command5, &poker.Command55,     &videopoker.MENUVP,   &poker.menupok,
-              &ramino.GIOCORAM,     &ramino.MENURAM,      &poker.Command44,     &menu.commpr[1],
-              &menu.commpr[2],      &menu.commpr[3],      &menu.commpr[4],      &menu.commpr[5],
-              &menu.commpr[6],      &domino.giocodom,     &domino.MENUDOM,      &domino.FINEDOM,
-              &chain.menucat,       &chain.CoNTCAT,       &chain.INICAT,        &chain.FINECA,
-              &ramino.ramesc,       &mahjongg.Command17});
+              &videopoker.Command5, &poker.Command11,     &poker.Command33,     &poker.Command55,
+              &poker.Command15,     &videopoker.MENUVP,   &poker.menupok,       &ramino.GIOCORAM,
+              &ramino.MENURAM,      &poker.Command44,     &menu.commpr[1],      &menu.commpr[2],
+              &menu.commpr[3],      &menu.commpr[4],      &menu.commpr[5],      &menu.commpr[6],
+              &domino.giocodom,     &domino.MENUDOM,      &domino.FINEDOM,      &chain.menucat,
+              &chain.CoNTCAT,       &chain.INICAT,        &chain.FINECA,        &ramino.ramesc,
+              &mahjongg.Command17});
+  giveCursor(menu.Label9.MouseIcon, {&poker.Op1, &poker.Op2, &poker.Option3, &poker.Option4});
 }
 
 Room::Room(Host& host) : screens_(std::make_unique<Screens>(host)) {}
 
 Room::~Room() = default;
 
-void Room::Form_Load() { screens_->giveCursors(); }
+void Room::Form_Load() {
+  screens_->poker.start();
+  screens_->giveCursors();
+}
 
 Form& Room::form() { return screens_->form; }
 

@@ -6,8 +6,9 @@
 
 namespace tombolario {
 
-/// Draws a caption in the box, its lines (parted by '\n') as one block in the middle. A dimmed one is
-/// engraved in grey; a line too wide for the box is set smaller.
+/// Draws a caption in the box, its lines (parted by '\n') as one block in the middle. A single line too wide
+/// for the box is broken at its blanks if the box is tall enough; any line that is still too wide is set
+/// smaller. A dimmed caption is engraved in grey.
 void drawCaption(Painter& painter, const Rect& box, std::string_view caption, const Font& font, Rgb colour,
                  Align align, bool dimmed);
 

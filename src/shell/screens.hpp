@@ -22,6 +22,10 @@ constexpr Look stripLook(Colour fore, Colour back, Align align = Align::Centre) 
 constexpr Look buttonLook(Colour back) { return {.back = back, .font = kButtonFont}; }
 constexpr Look buttonLook(Colour back, PictureId picture) { return {.back = back, .picture = picture}; }
 
+/// The look of a group of options with its title, and of an option in it.
+constexpr Look groupLook() { return {.font = kButtonFont, .border = Border::Etched}; }
+constexpr Look optionLook() { return {.font = {.points = 9.75}}; }
+
 /// The look of a screen, which is out of sight at the start.
 constexpr Look screenLook(Colour back) { return {.back = back, .visible = false}; }
 

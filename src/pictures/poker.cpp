@@ -1,0 +1,70 @@
+#include <array>
+
+#include "pictures/catalogue.hpp"
+#include "pictures/lettering.hpp"
+#include "pictures/score_table.hpp"
+#include "shell/slots.hpp"
+
+namespace tombolario::pictures {
+
+namespace {
+
+constexpr Size kBackSize{72, 94};
+
+/// A grey flying saucer with a dome and three lights, tilted on its way over a yellow ground.
+void drawSaucer(Painter& painter, int) {
+  painter.fillRect({0, 0, kBackSize.width, kBackSize.height}, kYellow);
+  painter.fillEllipse({22, 26, 28, 30}, kBlack);
+  painter.fillEllipse({23.5, 27.5, 25, 27}, 0xE0E0E0);
+  painter.fillEllipse({28, 31, 8, 9}, kWhite);
+  painter.fillPolygon(std::array<Vec, 4>{Vec{20, 58}, Vec{24, 57}, Vec{18, 72}, Vec{14, 72}}, 0x808080);
+  painter.fillPolygon(std::array<Vec, 4>{Vec{48, 57}, Vec{52, 58}, Vec{58, 72}, Vec{54, 72}}, 0x808080);
+  painter.fillEllipse({4, 40, 64, 24}, kBlack);
+  painter.fillEllipse({5.5, 41.5, 61, 21}, 0x808080);
+  painter.fillEllipse({7, 41.5, 58, 16}, 0xB8B8B8);
+  painter.fillEllipse({21, 43, 30, 8}, 0x606060);
+  painter.fillEllipse({23.5, 40, 25, 9}, 0xE0E0E0);
+  for (const double x : {13.0, 32.5, 52.0}) {
+    painter.fillEllipse({x, 52.5, 7, 5}, 0x404040);
+  }
+}
+
+struct Combination {
+  const char* name;
+  const char* points;
+};
+constexpr Slots<Combination, 0, 7> kCombinations{{{{"coppia", "1"},
+                                                   {"doppia coppia", "2"},
+                                                   {"tris", "4"},
+                                                   {"scala", "5"},
+                                                   {"full", "7"},
+                                                   {"colore", "8"},
+                                                   {"poker", "10"},
+                                                   {"scala reale", "12"}}}};
+constexpr Size kCombinationsSize{150, 137};
+
+void drawCombinations(Painter& painter, int) {
+  painter.fillRect({0, 0, kCombinationsSize.width, kCombinationsSize.height}, kBlue);
+  Rect row{10, 4.5, kCombinationsSize.width - 20, 16};
+  for (const auto& [name, points] : kCombinations) {
+    painter.text(row, name, lettering(9.5), kWhite, Align::Left);
+    painter.text(row, points, lettering(9.5), kWhite, Align::Right);
+    row.y += 16;
+  }
+}
+
+}  // namespace
+
+constinit const PictureStore ufo{"ufo", 0, 1, false, [](int) { return kBackSize; }, drawSaucer};
+constinit const PictureStore Pictcompok{"Pictcompok",    0, 1, false, [](int) { return kCombinationsSize; },
+                                        drawCombinations};
+constinit const PictureStore Picture5{"Picture5",
+                                      0,
+                                      1,
+                                      false,
+                                      [](int) {
+                                        return Size{165, 81};
+                                      },
+                                      [](Painter& painter, int) { scoreTable(painter, {"SCORE"}); }};
+
+}  // namespace tombolario::pictures

@@ -1,0 +1,46 @@
+#pragma once
+
+#include <array>
+#include <cstdint>
+#include <string>
+
+#include "shell/hand.hpp"
+
+namespace tombolario::poker {
+
+inline constexpr int kClasses = 9;
+
+/// The classes of a hand, from the worst to the best. A flush beats a full house, and a straight flush is
+/// one at any height.
+enum HandClass {
+  kNothing,
+  kPair,
+  kTwoPairs,
+  kThree,
+  kStraight,
+  kFull,
+  kFlush,
+  kFour,
+  kStraightFlush,
+};
+
+/// What a hand is, and what it is compared by with another of its class.
+struct Classification {
+  HandClass kind = kNothing;
+  /// Ranks that decide, the first before the others: the group; the higher pair, the lower pair and the odd
+  /// card; the three and the pair. 1 to 13, the ace 13; 0 where the class has none.
+  std::array<std::int16_t, 3> confrontopok{};
+  /// The value of the highest card of a straight: 0, the least of all, where it ends in the ace.
+  std::int16_t cimapok = 0;
+
+  /// What the table tells of it, as "doppia coppia   A/K"; one blank for nothing.
+  std::string text() const;
+};
+
+Classification classify(const Hand& hand);
+
+/// What a card is to the class of its hand, as the table shows it.
+enum class Part { None, FirstGroup, SecondGroup, Top };
+Part partOf(const Classification& hand, std::int16_t value);
+
+}  // namespace tombolario::poker
