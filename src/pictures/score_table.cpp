@@ -6,7 +6,10 @@ namespace tombolario::pictures {
 
 namespace {
 
+constexpr double kNameColumn = 101;
 constexpr double kValueColumn = 64;
+constexpr double kHeadRow = 21;
+constexpr double kSideRow = 30;
 
 /// A cell with an edge all around, which it shares with the cells beside and below it.
 void cell(Painter& painter, const Rect& box, const char* text, Rgb ink, Rgb ground) {

@@ -37,7 +37,7 @@ void Table::begin() {
   comp1.Caption = std::to_string(game_.computerScore());
 }
 
-/// Deals: the player's cards are seen, the computer's lie on their faces.
+/// Deals: the player's cards are seen, the computer's lie face down.
 void Table::avvioPOKER() {
   hum1.BackColor = kWhite;
   comp1.BackColor = kWhite;

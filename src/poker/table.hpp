@@ -55,7 +55,7 @@ class Table {
   PictureBox Picture5{Frame2BIS, "Picture5", {8100, 3060, 2475, 1215},
                       {.back = kWhite, .picture = pictures::Picture5}};
   Label result{Picture5, "result", {0, 0, 1510, 310}, "",
-               {.back = kYellow, .fore = kRed, .font = {.bold = true}, .visible = false}};
+               {.back = kYellow, .fore = kRed, .font = {.bold = true}, .border = Border::Single, .visible = false}};
   Label comp1{Picture5, "comp1", {1680, 410, 615, 255}, "", {.back = kWhite, .font = {.bold = true}}};
   Label hum1{Picture5, "hum1", {1680, 840, 615, 255}, "", {.back = kWhite, .font = {.bold = true}}};
   Button Command11{Frame2BIS, "Command11", {240, 5640, 1095, 615}, "NUOVA MANO", buttonLook(0xFF8000)};
