@@ -66,6 +66,12 @@ BENCHMARK_CAPTURE(repaint, PokerTable, {"commpr(1)", "Command44", "Command33"})
     ->Arg(4)
     ->Unit(benchmark::kMillisecond);
 
+BENCHMARK_CAPTURE(repaint, DominoTable, {"commpr(3)", "giocodom"})
+    ->Arg(1)
+    ->Arg(2)
+    ->Arg(4)
+    ->Unit(benchmark::kMillisecond);
+
 /// Moves, presses and releases all over the room, which play on by themselves.
 void mouseEvents(benchmark::State& state) {
   Played played;

@@ -13,14 +13,19 @@ namespace {
 
 TEST(Catalogue, HoldsEachPictureOnceAtItsSize) {
   const std::map<std::string, Size> told{
-      {"commpr(1)", {166, 18}},   {"commpr(6)", {166, 18}},      {"Picture3", {100, 100}},
-      {"Picture4", {100, 100}},   {"Label13", {32, 32}},         {"Label4", {32, 32}},
-      {"Label9", {32, 32}},       {"Picture1(0)", {70, 92}},     {"Picture1(51)", {70, 92}},
-      {"Picture1(52)", {70, 93}}, {"Pictcomvidpok", {156, 191}}, {"CONTPOK1", {204, 18}},
-      {"CONTPOK2", {204, 18}},    {"SALVPOK1", {205, 18}},       {"SALVPOK2", {205, 18}},
-      {"striscie", {432, 196}},   {"INICAT", {240, 24}},         {"CoNTCAT", {156, 22}},
-      {"FINECA", {38, 14}},       {"Picture11(0)", {70, 92}},    {"Picture11(51)", {70, 92}},
-      {"ufo", {72, 94}},          {"Pictcompok", {150, 137}},    {"Picture5", {165, 81}},
+      {"commpr(1)", {166, 18}},    {"commpr(6)", {166, 18}},      {"Picture3", {100, 100}},
+      {"Picture4", {100, 100}},    {"Label13", {32, 32}},         {"Label4", {32, 32}},
+      {"Label9", {32, 32}},        {"Picture1(0)", {70, 92}},     {"Picture1(51)", {70, 92}},
+      {"Picture1(52)", {70, 93}},  {"Pictcomvidpok", {156, 191}}, {"CONTPOK1", {204, 18}},
+      {"CONTPOK2", {204, 18}},     {"SALVPOK1", {205, 18}},       {"SALVPOK2", {205, 18}},
+      {"striscie", {432, 196}},    {"INICAT", {240, 24}},         {"CoNTCAT", {156, 22}},
+      {"FINECA", {38, 14}},        {"Picture11(0)", {70, 92}},    {"Picture11(51)", {70, 92}},
+      {"ufo", {72, 94}},           {"dominob(0)", {92, 52}},      {"dominob(55)", {92, 52}},
+      {"domin(56)", {92, 52}},     {"spagnadom", {32, 20}},       {"brasiledom", {32, 20}},
+      {"giapponedom", {32, 20}},   {"usadom", {32, 20}},          {"sveziadom", {32, 20}},
+      {"portogallodom", {32, 20}}, {"danimarcadom", {32, 20}},    {"tabdom", {229, 81}},
+      {"Commdomban", {124, 14}},   {"passadomban", {43, 13}},     {"Pictcompok", {150, 137}},
+      {"Picture5", {165, 81}},
   };
   std::set<std::string> names;
   for (const PictureStore* store : pictures::catalogue()) {

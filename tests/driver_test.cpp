@@ -53,6 +53,7 @@ TEST(Driver, ABadCommandAnswersAnErrorAndChangesNothing) {
 
 TEST(Driver, QueuedNumbersComeFirstAndInOrder) {
   Session room;
+  EXPECT_EQ(room("start"), "ok");
   EXPECT_EQ(room("u 0.99 0 5e-1"), "ok");
   EXPECT_EQ(room("u 0.25"), "ok");
   EXPECT_EQ(room("queued"), "4");

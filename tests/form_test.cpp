@@ -21,7 +21,7 @@ class NullPainter : public Painter {
   void text(const Rect&, std::string_view, const Font&, Rgb, Align) override {}
   double textWidth(std::string_view, const Font&) override { return 0; }
   void picture(const PictureId&, Vec, bool) override {}
-  void enter(const Rect&) override {}
+  void enter(const Rect&, double) override {}
   void leave() override {}
 };
 

@@ -9,6 +9,7 @@
 #include "pictures/catalogue.hpp"
 #include "session.hpp"
 #include "shell/caption.hpp"
+#include "shell/domino_set.hpp"
 
 namespace tombolario {
 namespace {
@@ -166,6 +167,12 @@ TEST(Pictures, ShowTheirGroundAndInk) {
                                {"ufo", {kYellow, 0x808080}},
                                {"Pictcompok", {kBlue, kWhite}},
                                {"Picture5", {kWhite, kBlack}},
+                               {"dominob(3)", {kWhite, kBlack, 0xFFC400, 0x0A3161}},
+                               {"dominob(31)", {kWhite, kBlack, 0xFFC400, 0x0A3161}},
+                               {"domin(56)", {kWhite, kBlack}},
+                               {"tabdom", {kYellow, kRed, kBlack, kGreen}},
+                               {"Commdomban", {kYellow, kRed}},
+                               {"passadomban", {kBlack, kYellow}},
                                {"FINECA", {kRed, kWhite}}};
   for (const auto& [name, colours] : told) {
     const PictureId picture = pictures::find(name);
@@ -177,6 +184,41 @@ TEST(Pictures, ShowTheirGroundAndInk) {
         for (int x = 0; x < canvas.width(); ++x) found += canvas.pixel(x, y) == colour;
       }
       EXPECT_GT(found, 20) << name << " lacks " << std::hex << colour;
+    }
+  }
+}
+
+/// The flags stand for numbers: any two differ in a good part of what is seen.
+TEST(Pictures, TheFlagsAreToldApartAndStandOnTheirTiles) {
+  constexpr Size kFlag{32, 20};
+  const std::vector<const char*> flags{"spagnadom", "brasiledom",    "giapponedom", "usadom",
+                                       "sveziadom", "portogallodom", "danimarcadom"};
+  const auto differing = [&](const Canvas& a, Vec from, const Canvas& b) {
+    int count = 0;
+    for (int y = 0; y < kFlag.height; ++y) {
+      for (int x = 0; x < kFlag.width; ++x) {
+        count += a.pixel(static_cast<int>(from.x) + x, static_cast<int>(from.y) + y) != b.pixel(x, y);
+      }
+    }
+    return count;
+  };
+  for (int i = 0; i < 7; ++i) {
+    Canvas one(kFlag, 1);
+    pictures::find(flags[static_cast<std::size_t>(i)]).draw(one.painter);
+    for (int j = 0; j < i; ++j) {
+      Canvas other(kFlag, 1);
+      pictures::find(flags[static_cast<std::size_t>(j)]).draw(other.painter);
+      EXPECT_GT(differing(one, {0, 0}, other), 300) << flags[static_cast<std::size_t>(i)];
+    }
+  }
+  for (int face = 0; face < 56; ++face) {
+    Canvas tile({92, 52}, 1);
+    PictureId(pictures::dominob, face).draw(tile.painter);
+    const auto& [first, second] = kFaceNumbers[face];
+    for (const auto& [number, place] : {std::pair(first, Vec{7, 13}), std::pair(second, Vec{53, 13})}) {
+      Canvas flag(kFlag, 1);
+      pictures::find(flags[static_cast<std::size_t>(number)]).draw(flag.painter);
+      EXPECT_EQ(differing(tile, place, flag), 0) << face;
     }
   }
 }
@@ -214,8 +256,8 @@ TEST(Pictures, ALitRowLiesRightOnItsRowOfThePayTable) {
 /// are pure ground.
 TEST(Pictures, TheTextOfAPlateKeepsOffItsEdge) {
   for (const double scale : {1.0, 1.25, 1.5, 2.0, 3.3}) {
-    for (const char* name :
-         {"commpr(4)", "CONTPOK2", "SALVPOK2", "INICAT", "CoNTCAT", "FINECA", "Pictcompok"}) {
+    for (const char* name : {"commpr(4)", "CONTPOK2", "SALVPOK2", "INICAT", "CoNTCAT", "FINECA", "Pictcompok",
+                             "Commdomban", "passadomban"}) {
       const PictureId picture = pictures::find(name);
       Canvas canvas(picture.size(), scale);
       picture.draw(canvas.painter);

@@ -14,7 +14,8 @@ constexpr int kEvents = 250'000;
 class RandomPlayer {
  public:
   explicit RandomPlayer(Form& room) : form_(room) {
-    for (const char* name : {"Command5", "Command15", "Command55"}) leaves_.push_back(room.find(name));
+    for (const char* name : {"Command5", "Command15", "Command55", "FINEDOM"})
+      leaves_.push_back(room.find(name));
   }
 
   void step() {
@@ -107,6 +108,35 @@ class PokerHolds {
   const Control* table_;
 };
 
+/// What holds in domino after every event.
+class DominoHolds {
+ public:
+  explicit DominoHolds(Form& form)
+      : pass_(form.find("passadomban")),
+        computer_(form.find("Commdomban")),
+        result_(form.find("NUOVAPARDOM")),
+        bar_(form.find("HScrolldom")) {
+    for (int box = 0; box <= 60; ++box) line_.push_back(form.find("VISUAL(" + std::to_string(box) + ")"));
+  }
+
+  void check() {
+    ASSERT_LE(pass_->Enabled + computer_->Enabled + result_->Visible, 1) << "whose turn is it?";
+    ASSERT_TRUE(bar_->Min >= 4 && bar_->Max <= 56);
+    ASSERT_EQ(std::count_if(line_.begin(), line_.end(), visible), 1);
+    ASSERT_TRUE(line_[static_cast<std::size_t>(bar_->Value)]->Visible);
+    over += result_->Visible;
+  }
+
+  long over = 0;
+
+ private:
+  const Control* pass_;
+  const Control* computer_;
+  const Control* result_;
+  const Control* bar_;
+  std::vector<const Control*> line_;
+};
+
 TEST(RandomWalk, NeverLeavesTheRulesOfTheRoom) {
   Session room;
   ASSERT_EQ(room("start"), "ok");
@@ -117,11 +147,14 @@ TEST(RandomWalk, NeverLeavesTheRulesOfTheRoom) {
   }
   ASSERT_EQ(screens.size(), 12U);
   std::vector<const Control*> numbers;
-  for (const char* name : {"Label2", "Label5", "Label6", "hum1", "comp1"}) numbers.push_back(form.find(name));
+  for (const char* name :
+       {"Label2", "Label5", "Label6", "hum1", "comp1", "scoredom1", "domcont2", "peddom(13)"})
+    numbers.push_back(form.find(name));
   const std::regex number("-?[0-9]+|");
 
   VideoPokerHolds videoPoker(form);
   PokerHolds poker(form);
+  DominoHolds domino(form);
   RandomPlayer player(form);
   for (int event = 0; event < kEvents; ++event) {
     SCOPED_TRACE(event);
@@ -129,6 +162,7 @@ TEST(RandomWalk, NeverLeavesTheRulesOfTheRoom) {
     ASSERT_EQ(std::count_if(screens.begin(), screens.end(), visible), 1);
     videoPoker.check();
     poker.check();
+    domino.check();
     if (HasFailure()) return;
     if (event % 50 != 0) continue;
     for (const Control* label : numbers) {
@@ -138,6 +172,7 @@ TEST(RandomWalk, NeverLeavesTheRulesOfTheRoom) {
   }
   EXPECT_GT(videoPoker.scored, 1000) << "the walk should get somewhere";
   EXPECT_GT(poker.over, 100) << "the walk should get somewhere";
+  EXPECT_GT(domino.over, 100) << "the walk should get somewhere";
 }
 
 }  // namespace

@@ -9,9 +9,6 @@ namespace tombolario {
 namespace {
 
 constexpr std::size_t kMostBytes = std::size_t{32} << 20;
-/// The grey veil over a dimmed picture, and how much of the picture it hides.
-constexpr double kVeilGrey = 0.75;
-constexpr double kVeil = 0.5;
 /// Height of the capitals in a sans serif; text is centred by them, since most of it is capitals.
 constexpr double kCapsOfEm = 0.715;
 
@@ -67,13 +64,13 @@ PangoLayout* PainterCache::layout(std::string_view text, const Font& font, doubl
 }
 
 CairoPainter::CairoPainter(cairo_surface_t* target, double scale, PainterCache& cache)
-    : cairo_(cairo_create(target)), scale_(scale), cache_(cache) {
+    : cairo_(cairo_create(target)), cache_(cache), places_{{{0, 0}, scale}} {
   cairo_set_line_join(cairo_.get(), CAIRO_LINE_JOIN_ROUND);
 }
 
 Vec CairoPainter::device(Vec point) const {
-  const Vec origin = origins_.back();
-  return {origin.x + point.x * scale_, origin.y + point.y * scale_};
+  const auto& [origin, scale] = places_.back();
+  return {origin.x + point.x * scale, origin.y + point.y * scale};
 }
 
 CairoPainter::Area CairoPainter::area(const Rect& rect) const {
@@ -112,7 +109,7 @@ void CairoPainter::fillRect(const Rect& rect, Rgb colour) {
 
 void CairoPainter::outlineRect(const Rect& rect, Rgb colour, double width) {
   const Area a = area(rect);
-  const double w = std::max(1.0, std::round(width * scale_));
+  const double w = std::max(1.0, std::round(width * scale()));
   ink(colour);
   fill({a.left, a.top, a.right, a.top + w});
   fill({a.left, a.bottom - w, a.right, a.bottom});
@@ -129,7 +126,7 @@ void CairoPainter::fillPolygon(std::span<const Vec> points, Rgb colour) {
 void CairoPainter::outlinePolygon(std::span<const Vec> points, Rgb colour, double width) {
   ink(colour);
   trace(points);
-  cairo_set_line_width(cairo_.get(), width * scale_);
+  cairo_set_line_width(cairo_.get(), width * scale());
   cairo_stroke(cairo_.get());
 }
 
@@ -139,7 +136,7 @@ void CairoPainter::fillEllipse(const Rect& bounds, Rgb colour) {
   ink(colour);
   cairo_save(cairo);
   cairo_translate(cairo, centre.x, centre.y);
-  cairo_scale(cairo, bounds.w / 2 * scale_, bounds.h / 2 * scale_);
+  cairo_scale(cairo, bounds.w / 2 * scale(), bounds.h / 2 * scale());
   cairo_new_path(cairo);
   cairo_arc(cairo, 0, 0, 1, 0, 2 * std::numbers::pi);
   cairo_restore(cairo);
@@ -153,18 +150,18 @@ void CairoPainter::line(Vec from, Vec to, Rgb colour, double width) {
   cairo_new_path(cairo_.get());
   cairo_move_to(cairo_.get(), start.x, start.y);
   cairo_line_to(cairo_.get(), end.x, end.y);
-  cairo_set_line_width(cairo_.get(), width * scale_);
+  cairo_set_line_width(cairo_.get(), width * scale());
   cairo_stroke(cairo_.get());
 }
 
 void CairoPainter::text(const Rect& box, std::string_view text, const Font& font, Rgb colour, Align align) {
-  PangoLayout* layout = cache_.layout(text, font, scale_);
+  PangoLayout* layout = cache_.layout(text, font, scale());
   int width = 0;
   pango_layout_get_size(layout, &width, nullptr);
   const Vec left = device({box.x, box.y + box.h / 2});
-  const double room = box.w * scale_ - width / static_cast<double>(PANGO_SCALE);
+  const double room = box.w * scale() - width / static_cast<double>(PANGO_SCALE);
   const double share = align == Align::Left ? 0 : align == Align::Centre ? 0.5 : 1;
-  const double baseline = std::round(left.y + pixelsOf(font) * scale_ * kCapsOfEm / 2);
+  const double baseline = std::round(left.y + pixelsOf(font) * scale() * kCapsOfEm / 2);
   ink(colour);
   cairo_move_to(cairo_.get(), left.x + room * share, baseline);
   pango_cairo_show_layout_line(cairo_.get(), pango_layout_get_line_readonly(layout, 0));
@@ -172,8 +169,8 @@ void CairoPainter::text(const Rect& box, std::string_view text, const Font& font
 
 double CairoPainter::textWidth(std::string_view text, const Font& font) {
   int width = 0;
-  pango_layout_get_size(cache_.layout(text, font, scale_), &width, nullptr);
-  return width / static_cast<double>(PANGO_SCALE) / scale_;
+  pango_layout_get_size(cache_.layout(text, font, scale()), &width, nullptr);
+  return width / static_cast<double>(PANGO_SCALE) / scale();
 }
 
 void CairoPainter::picture(const PictureId& picture, Vec at, bool dimmed) {
@@ -181,25 +178,26 @@ void CairoPainter::picture(const PictureId& picture, Vec at, bool dimmed) {
   const Vec corner = device(at);
   const double x = std::round(corner.x);
   const double y = std::round(corner.y);
-  cairo_surface_t* drawn = cache_.picture(picture, scale_);
+  cairo_surface_t* drawn = cache_.picture(picture, scale());
   cairo_set_source_surface(cairo_.get(), drawn, x, y);
   cairo_paint(cairo_.get());
   if (!dimmed) return;
-  cairo_set_source_rgba(cairo_.get(), kVeilGrey, kVeilGrey, kVeilGrey, kVeil);
+  const double grey = (kVeil & 0xFF) / 255.0;
+  cairo_set_source_rgba(cairo_.get(), grey, grey, grey, 0.5);
   cairo_mask_surface(cairo_.get(), drawn, x, y);
 }
 
-void CairoPainter::enter(const Rect& rect) {
+void CairoPainter::enter(const Rect& rect, double zoom) {
   const Area a = area(rect);
   cairo_save(cairo_.get());
   cairo_rectangle(cairo_.get(), a.left, a.top, a.right - a.left, a.bottom - a.top);
   cairo_clip(cairo_.get());
-  origins_.push_back({a.left, a.top});
+  places_.push_back({{a.left, a.top}, scale() * zoom});
 }
 
 void CairoPainter::leave() {
   cairo_restore(cairo_.get());
-  origins_.pop_back();
+  places_.pop_back();
 }
 
 }  // namespace tombolario

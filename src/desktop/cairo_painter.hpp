@@ -65,7 +65,8 @@ class CairoPainter : public Painter {
   void text(const Rect& box, std::string_view text, const Font& font, Rgb colour, Align align) override;
   double textWidth(std::string_view text, const Font& font) override;
   void picture(const PictureId& picture, Vec at, bool dimmed) override;
-  void enter(const Rect& rect) override;
+  using Painter::enter;
+  void enter(const Rect& rect, double zoom) override;
   void leave() override;
 
  private:
@@ -79,10 +80,16 @@ class CairoPainter : public Painter {
   void ink(Rgb colour);
   void trace(std::span<const Vec> points);
 
+  /// A place that was entered. Origins are whole device pixels: what is drawn inside lies alike everywhere.
+  struct Place {
+    Vec origin;
+    double scale;
+  };
+  double scale() const { return places_.back().scale; }
+
   Owned<cairo_t> cairo_;
-  double scale_;
   PainterCache& cache_;
-  std::vector<Vec> origins_{{0, 0}};  // whole device pixels: what is drawn inside lies alike everywhere
+  std::vector<Place> places_;
 };
 
 }  // namespace tombolario

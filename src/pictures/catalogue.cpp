@@ -6,10 +6,12 @@ namespace tombolario::pictures {
 
 namespace {
 
-constexpr std::array kStores{&commpr,   &Picture3,  &Picture4,      &Label13, &Label4,     &Label9,
-                             &Picture1, &Picture11, &Pictcomvidpok, &segn,    &CONTPOK1,   &CONTPOK2,
-                             &SALVPOK1, &SALVPOK2,  &striscie,      &ufo,     &Pictcompok, &Picture5,
-                             &INICAT,   &CoNTCAT,   &FINECA};
+constexpr std::array kStores{
+    &commpr,     &Picture3,      &Picture4,   &Label13,   &Label4,        &Label9,       &Picture1,
+    &Picture11,  &Pictcomvidpok, &segn,       &CONTPOK1,  &CONTPOK2,      &SALVPOK1,     &SALVPOK2,
+    &striscie,   &ufo,           &Pictcompok, &Picture5,  &dominob,       &domin,        &spagnadom,
+    &brasiledom, &giapponedom,   &usadom,     &sveziadom, &portogallodom, &danimarcadom, &tabdom,
+    &Commdomban, &passadomban,   &INICAT,     &CoNTCAT,   &FINECA};
 
 }  // namespace
 

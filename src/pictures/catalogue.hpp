@@ -16,6 +16,9 @@ extern const PictureStore Picture1, Picture11;
 extern const PictureStore Pictcomvidpok, segn, CONTPOK1, CONTPOK2, SALVPOK1, SALVPOK2, striscie;
 // Poker against the computer; the first is the back of a card.
 extern const PictureStore ufo, Pictcompok, Picture5;
+// Domino: the faces, the blank tile, the flags of the numbers 0 to 6.
+extern const PictureStore dominob, domin, spagnadom, brasiledom, giapponedom, usadom, sveziadom,
+    portogallodom, danimarcadom, tabdom, Commdomban, passadomban;
 // The chain game.
 extern const PictureStore INICAT, CoNTCAT, FINECA;
 

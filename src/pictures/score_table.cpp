@@ -24,12 +24,12 @@ void scoreTable(Painter& painter, std::initializer_list<const char*> headings) {
   const double computer = kHeadRow - 1;
   const double human = computer + kSideRow;
   cell(painter, {0, 0, kNameColumn, kHeadRow}, "", kWhite, kWhite);
-  cell(painter, {0, computer, kNameColumn, kSideRow + 1}, "COMPUTER", kWhite, kRed);
-  cell(painter, {0, human, kNameColumn, kSideRow + 1}, "HUMAN", kWhite, kBlue);
+  cell(painter, {0, computer, kNameColumn, kSideRow + 1}, "COMPUTER", kBlack, kGreen);
+  cell(painter, {0, human, kNameColumn, kSideRow + 1}, "HUMAN", kBlack, kGreen);
   double left = kNameColumn - 1;
   for (const char* heading : headings) {
     const double width = kValueColumn + 1;
-    cell(painter, {left, 0, width, kHeadRow}, heading, kBlack, kYellow);
+    cell(painter, {left, 0, width, kHeadRow}, heading, kYellow, kRed);
     cell(painter, {left, computer, width, kSideRow + 1}, "", kWhite, kWhite);
     cell(painter, {left, human, width, kSideRow + 1}, "", kWhite, kWhite);
     left += kValueColumn;

@@ -27,7 +27,7 @@ struct Room::Screens {
   MainMenu menu;
   poker::Table poker;
   videopoker::Table videopoker;
-  domino::Table domino{form};
+  domino::Table domino;
   chain::Table chain{form};
   ramino::Table ramino{form};
   mahjongg::Table mahjongg{form};
@@ -42,7 +42,8 @@ struct Room::Screens {
   void giveCursors();
 };
 
-Room::Screens::Screens(Host& host) : menu(form, host), poker(form, host), videopoker(form, host) {
+Room::Screens::Screens(Host& host)
+    : menu(form, host), poker(form, host), videopoker(form, host), domino(form, host) {
   opens(1, poker.Frame2);
   opens(2, videopoker.Frame3);
   opens(3, domino.FRAME5);
@@ -86,10 +87,12 @@ void Room::Screens::giveCursors() {
               &poker.Command15,     &videopoker.MENUVP,   &poker.menupok,       &ramino.GIOCORAM,
               &ramino.MENURAM,      &poker.Command44,     &menu.commpr[1],      &menu.commpr[2],
               &menu.commpr[3],      &menu.commpr[4],      &menu.commpr[5],      &menu.commpr[6],
-              &domino.giocodom,     &domino.MENUDOM,      &domino.FINEDOM,      &chain.menucat,
-              &chain.CoNTCAT,       &chain.INICAT,        &chain.FINECA,        &ramino.ramesc,
-              &mahjongg.Command17});
-  giveCursor(menu.Label9.MouseIcon, {&poker.Op1, &poker.Op2, &poker.Option3, &poker.Option4});
+              &domino.giocodom,     &domino.MENUDOM,      &domino.FINEDOM,      &domino.NUOVAPARDOM,
+              &domino.passadomban,  &domino.Commdomban,   &chain.menucat,       &chain.CoNTCAT,
+              &chain.INICAT,        &chain.FINECA,        &ramino.ramesc,       &mahjongg.Command17});
+  giveCursor(menu.Label4.MouseIcon, {&domino.HScrolldom});
+  giveCursor(menu.Label9.MouseIcon, {&poker.Op1, &poker.Op2, &domino.Opdom1, &domino.Opdom2, &domino.Opdom3,
+                                     &domino.Opdom4, &poker.Option3, &poker.Option4});
 }
 
 Room::Room(Host& host) : screens_(std::make_unique<Screens>(host)) {}
@@ -97,6 +100,7 @@ Room::Room(Host& host) : screens_(std::make_unique<Screens>(host)) {}
 Room::~Room() = default;
 
 void Room::Form_Load() {
+  screens_->domino.inizioDOMINO();
   screens_->poker.start();
   screens_->giveCursors();
 }

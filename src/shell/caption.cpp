@@ -28,10 +28,10 @@ std::vector<std::string_view> broken(Painter& painter, std::string_view line, co
   std::vector<std::string_view> lines;
   while (painter.textWidth(line, font) > width) {
     std::size_t blank = line.rfind(' ');
-    while (blank != line.npos && painter.textWidth(line.substr(0, blank), font) > width) {
-      blank = blank == 0 ? line.npos : line.rfind(' ', blank - 1);
+    while (blank != std::string_view::npos && painter.textWidth(line.substr(0, blank), font) > width) {
+      blank = blank == 0 ? std::string_view::npos : line.rfind(' ', blank - 1);
     }
-    if (blank == line.npos) break;
+    if (blank == std::string_view::npos) break;
     lines.push_back(line.substr(0, blank));
     line.remove_prefix(blank + 1);
   }

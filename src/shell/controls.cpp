@@ -53,9 +53,18 @@ void PictureBox::draw(Painter& painter, const Rect& bounds) const {
   drawBorder(painter, bounds, border());
 }
 
+void Image::draw(Painter& painter, const Rect& bounds) const {
+  const PictureId& picture = Picture;
+  const Size size = picture.size();
+  painter.enter(bounds, std::min(bounds.w / size.width, bounds.h / size.height));
+  picture.draw(painter);
+  painter.leave();
+}
+
 void Button::draw(Painter& painter, const Rect& bounds) const {
   const bool down = form().holdsDown(*this);
-  painter.fillRect(bounds, BackColor.get().rgb());
+  const Rgb ground = BackColor.get().rgb();
+  painter.fillRect(bounds, Picture.get() && !Enabled ? veiled(ground) : ground);
   const Rect face = bounds.inset(4);
   const Rect content = down ? face.movedBy(1, 1) : face;
   if (Picture.get()) {

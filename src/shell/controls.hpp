@@ -37,6 +37,16 @@ class PictureBox : public Control {
   int inset() const override { return border() == Border::Single ? kTwipsPerPixel : 0; }
 };
 
+/// A picture at the size of its box, with its own proportions.
+class Image : public Control {
+ public:
+  Image(Control& parent, Name name, Box box, PictureId picture)
+      : Control(parent, name, box, "", {.picture = picture}) {}
+
+ private:
+  void draw(Painter& painter, const Rect& bounds) const override;
+};
+
 /// A raised button with a caption, or a picture in its place.
 class Button : public Control {
  public:

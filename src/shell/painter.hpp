@@ -45,8 +45,9 @@ class Painter {
   /// Draws the picture at its own size, its top left corner there; a dimmed one under a grey veil.
   virtual void picture(const PictureId& picture, Vec at, bool dimmed) = 0;
   /// Clips to the rectangle and moves the origin to its top left corner, on a whole device pixel, until the
-  /// matching leave.
-  virtual void enter(const Rect& rect) = 0;
+  /// matching leave; what is drawn meanwhile is that many times as large.
+  virtual void enter(const Rect& rect, double zoom) = 0;
+  void enter(const Rect& rect) { enter(rect, 1); }
   virtual void leave() = 0;
 };
 

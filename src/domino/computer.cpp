@@ -1,0 +1,39 @@
+#include "domino/computer.hpp"
+
+#include <array>
+#include <vector>
+
+namespace tombolario::domino {
+
+namespace {
+
+/// The numbers from the one that the player holds least. One that the player holds on all its seven tiles
+/// is left out: the computer has no tile to leave it open.
+std::vector<std::int16_t> byCount(const Numbers<0, kNumbers - 1>& held) {
+  std::vector<std::int16_t> ordinedom;
+  for (std::int16_t count = 0; count < kNumbers; ++count) {
+    for (std::int16_t number = 0; number < kNumbers; ++number) {
+      if (held[number] == count) ordinedom.push_back(number);
+    }
+  }
+  return ordinedom;
+}
+
+}  // namespace
+
+Choice choose(const View& view, Level level) {
+  constexpr std::array kTried{Placement::Right, Placement::Left, Placement::RightReversed,
+                              Placement::LeftReversed};
+  for (const std::int16_t wanted : byCount(view.held)) {
+    for (int slot = kFirstOfComputer; slot <= kLastOfComputer; ++slot) {
+      if (view.laid[slot]) continue;
+      for (const Placement placement : kTried) {
+        const auto left = leavesOpen(placement, view.hand[slot], view.open);
+        if (left && (level == Level::Beginner || left == wanted)) return {placement, slot};
+      }
+    }
+  }
+  return {};
+}
+
+}  // namespace tombolario::domino

@@ -1,0 +1,52 @@
+#include "pictures/catalogue.hpp"
+#include "pictures/lettering.hpp"
+#include "pictures/score_table.hpp"
+#include "shell/domino_set.hpp"
+
+namespace tombolario::pictures {
+
+namespace {
+
+constexpr Size kTileSize{92, 52};
+constexpr Rect kTile{0, 0, kTileSize.width, kTileSize.height};
+
+/// By the numbers that they stand for.
+constexpr Slots<const PictureStore*, 0, kNumbers - 1> kFlags{
+    &spagnadom, &brasiledom, &giapponedom, &usadom, &sveziadom, &portogallodom, &danimarcadom};
+
+/// White, a line down the middle, and the flags of both numbers.
+void drawTile(Painter& painter, int face) {
+  const auto& [first, second] = kFaceNumbers[face];
+  painter.fillRect(kTile, kWhite);
+  painter.fillRect({45, 0, 2, kTile.h}, kBlack);
+  painter.picture(*kFlags[first], {7, 13}, false);
+  painter.picture(*kFlags[second], {53, 13}, false);
+}
+
+void drawBlank(Painter& painter, int) {
+  painter.fillRect(kTile, kWhite);
+  painter.line({0, 0}, {kTile.w, kTile.h}, kBlack, 1);
+  painter.line({0, kTile.h}, {kTile.w, 0}, kBlack, 1);
+}
+
+constexpr Size sizeOfTile(int) { return kTileSize; }
+
+}  // namespace
+
+constinit const PictureStore dominob{"dominob", 0, kFaces, true, sizeOfTile, drawTile};
+constinit const PictureStore domin{"domin", 56, 1, true, sizeOfTile, drawBlank};
+constinit const PictureStore tabdom{"tabdom",
+                                    0,
+                                    1,
+                                    false,
+                                    [](int) {
+                                      return Size{229, 81};
+                                    },
+                                    [](Painter& painter, int) {
+                                      scoreTable(painter, {"PEDINE", "SCORE"});
+                                    }};
+constinit const PictureStore Commdomban =
+    plateStore<"SCELTA COMPUTER", Size{124, 14}, kYellow, kRed>("Commdomban");
+constinit const PictureStore passadomban = plateStore<"PASSA", Size{43, 13}, kBlack, kYellow>("passadomban");
+
+}  // namespace tombolario::pictures
