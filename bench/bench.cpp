@@ -72,6 +72,12 @@ BENCHMARK_CAPTURE(repaint, DominoTable, {"commpr(3)", "giocodom"})
     ->Arg(4)
     ->Unit(benchmark::kMillisecond);
 
+BENCHMARK_CAPTURE(repaint, RaminoTable, {"commpr(5)", "GIOCORAM", "mazzoram"})
+    ->Arg(1)
+    ->Arg(2)
+    ->Arg(4)
+    ->Unit(benchmark::kMillisecond);
+
 /// Moves, presses and releases all over the room, which play on by themselves.
 void mouseEvents(benchmark::State& state) {
   Played played;

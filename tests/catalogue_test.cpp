@@ -25,7 +25,11 @@ TEST(Catalogue, HoldsEachPictureOnceAtItsSize) {
       {"giapponedom", {32, 20}},   {"usadom", {32, 20}},          {"sveziadom", {32, 20}},
       {"portogallodom", {32, 20}}, {"danimarcadom", {32, 20}},    {"tabdom", {229, 81}},
       {"Commdomban", {124, 14}},   {"passadomban", {43, 13}},     {"Pictcompok", {150, 137}},
-      {"Picture5", {165, 81}},
+      {"Picture5", {165, 81}},     {"ramcar(0)", {40, 59}},       {"ramcar(51)", {40, 59}},
+      {"PicRAM3", {40, 59}},       {"rampul1", {37, 13}},         {"rampul2", {37, 15}},
+      {"ramlas", {46, 15}},        {"scambiaram", {46, 29}},      {"RAMRESULT", {165, 81}},
+      {"rampar", {101, 81}},       {"ramvin", {101, 81}},         {"ramper", {101, 81}},
+      {"Picram", {468, 142}},
   };
   std::set<std::string> names;
   for (const PictureStore* store : pictures::catalogue()) {

@@ -173,6 +173,20 @@ TEST(Pictures, ShowTheirGroundAndInk) {
                                {"tabdom", {kYellow, kRed, kBlack, kGreen}},
                                {"Commdomban", {kYellow, kRed}},
                                {"passadomban", {kBlack, kYellow}},
+                               {"ramcar(0)", {0x008000, kWhite}},
+                               {"ramcar(25)", {0xF0BC09, kWhite}},
+                               {"ramcar(26)", {0xFF0080, kWhite}},
+                               {"ramcar(51)", {0x800000, kWhite}},
+                               {"PicRAM3", {kYellow, kCyan, kBlue}},
+                               {"rampul1", {kRed, kWhite}},
+                               {"rampul2", {kBlue, kWhite}},
+                               {"ramlas", {kBlue, kWhite}},
+                               {"scambiaram", {kYellow, kBlack}},
+                               {"RAMRESULT", {kYellow, kGreen, kRed, kWhite, 0xFFFFBF, kBlack, 0x0080FF}},
+                               {"rampar", {0xFF00FF, kYellow, 0xC0C0C0, 0xFF8040}},
+                               {"ramvin", {0xFF00FF, kYellow, kRed, kWhite, kBlue}},
+                               {"ramper", {0xFF00FF, kYellow, kRed, kWhite, kBlue}},
+                               {"Picram", {0xC0C0C0, kBlack, kRed, kBlue, kWhite, kYellow}},
                                {"FINECA", {kRed, kWhite}}};
   for (const auto& [name, colours] : told) {
     const PictureId picture = pictures::find(name);
@@ -256,8 +270,9 @@ TEST(Pictures, ALitRowLiesRightOnItsRowOfThePayTable) {
 /// are pure ground.
 TEST(Pictures, TheTextOfAPlateKeepsOffItsEdge) {
   for (const double scale : {1.0, 1.25, 1.5, 2.0, 3.3}) {
-    for (const char* name : {"commpr(4)", "CONTPOK2", "SALVPOK2", "INICAT", "CoNTCAT", "FINECA", "Pictcompok",
-                             "Commdomban", "passadomban"}) {
+    for (const char* name :
+         {"commpr(4)", "CONTPOK2", "SALVPOK2", "INICAT", "CoNTCAT", "FINECA", "Pictcompok", "Commdomban",
+          "passadomban", "rampul1", "rampul2", "ramlas", "scambiaram", "Picram"}) {
       const PictureId picture = pictures::find(name);
       Canvas canvas(picture.size(), scale);
       picture.draw(canvas.painter);

@@ -14,7 +14,7 @@ constexpr int kEvents = 250'000;
 class RandomPlayer {
  public:
   explicit RandomPlayer(Form& room) : form_(room) {
-    for (const char* name : {"Command5", "Command15", "Command55", "FINEDOM"})
+    for (const char* name : {"Command5", "Command15", "Command55", "FINEDOM", "ramesc", "ALTRORAM"})
       leaves_.push_back(room.find(name));
   }
 
@@ -137,6 +137,38 @@ class DominoHolds {
   std::vector<const Control*> line_;
 };
 
+/// What holds in ramino after every event.
+class RaminoHolds {
+ public:
+  explicit RaminoHolds(Form& form)
+      : draw_(form.find("mazzoram")),
+        leave_(form.find("ramlas")),
+        computer_(form.find("ramturncom")),
+        button_(form.find("ramCom(0)")) {
+    for (const char* name : {"ramvin", "ramper", "rampar"}) ends_.push_back(form.find(name));
+    for (int i = 0; i < 37; ++i) list_.push_back(form.find("visualram(" + std::to_string(i) + ")"));
+  }
+
+  void check() {
+    const auto ended = std::count_if(ends_.begin(), ends_.end(), visible);
+    ASSERT_LE(ended, 1);
+    ASSERT_EQ(draw_->Enabled + leave_->Enabled + computer_->Enabled, 1 - ended) << "whose turn is it?";
+    ASSERT_EQ(button_->Enabled, ended == 0);
+    ASSERT_LE(std::count_if(list_.begin(), list_.end(), visible), 1);
+    over += ended;
+  }
+
+  long over = 0;
+
+ private:
+  const Control* draw_;
+  const Control* leave_;
+  const Control* computer_;
+  const Control* button_;
+  std::vector<const Control*> ends_;
+  std::vector<const Control*> list_;
+};
+
 TEST(RandomWalk, NeverLeavesTheRulesOfTheRoom) {
   Session room;
   ASSERT_EQ(room("start"), "ok");
@@ -147,14 +179,15 @@ TEST(RandomWalk, NeverLeavesTheRulesOfTheRoom) {
   }
   ASSERT_EQ(screens.size(), 12U);
   std::vector<const Control*> numbers;
-  for (const char* name :
-       {"Label2", "Label5", "Label6", "hum1", "comp1", "scoredom1", "domcont2", "peddom(13)"})
+  for (const char* name : {"Label2", "Label5", "Label6", "hum1", "comp1", "scoredom1", "domcont2",
+                           "peddom(13)", "PRAMC", "PRAMH"})
     numbers.push_back(form.find(name));
   const std::regex number("-?[0-9]+|");
 
   VideoPokerHolds videoPoker(form);
   PokerHolds poker(form);
   DominoHolds domino(form);
+  RaminoHolds ramino(form);
   RandomPlayer player(form);
   for (int event = 0; event < kEvents; ++event) {
     SCOPED_TRACE(event);
@@ -163,6 +196,7 @@ TEST(RandomWalk, NeverLeavesTheRulesOfTheRoom) {
     videoPoker.check();
     poker.check();
     domino.check();
+    ramino.check();
     if (HasFailure()) return;
     if (event % 50 != 0) continue;
     for (const Control* label : numbers) {
@@ -173,6 +207,7 @@ TEST(RandomWalk, NeverLeavesTheRulesOfTheRoom) {
   EXPECT_GT(videoPoker.scored, 1000) << "the walk should get somewhere";
   EXPECT_GT(poker.over, 100) << "the walk should get somewhere";
   EXPECT_GT(domino.over, 100) << "the walk should get somewhere";
+  EXPECT_GT(ramino.over, 100) << "the walk should get somewhere";
 }
 
 }  // namespace

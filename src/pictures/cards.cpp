@@ -30,6 +30,9 @@ constexpr Suits kVideoPokerSuits{kRed, kYellow, 0x00E8E8, kGreen};
 constexpr Size kPokerCard{70, 92};
 constexpr Suits kPokerSuits{0xFF00FF, 0xFF8040, 0xFFFFB3, kBlue};
 
+constexpr Size kRaminoCard{40, 59};
+constexpr Suits kRaminoSuits{0x008000, 0xF0BC09, 0xFF0080, 0x800000};
+
 /// A ball of many gores that meet a little above its middle, with a light on it.
 void drawBall(Painter& painter, Vec centre, double radius) {
   constexpr std::array<Rgb, 8> kGores{kRed, 0xFF8040, kYellow, kGreen, 0x00E8E8, kBlue, 0x8000FF, 0xFF00FF};
@@ -81,5 +84,13 @@ constinit const PictureStore Picture11{
     true,
     [](int) { return kPokerCard; },
     [](Painter& painter, int card) { drawCard(painter, card, kPokerCard, kPokerSuits, kBlack); }};
+
+constinit const PictureStore ramcar{
+    "ramcar",
+    0,
+    kPack,
+    true,
+    [](int) { return kRaminoCard; },
+    [](Painter& painter, int card) { drawCard(painter, card, kRaminoCard, kRaminoSuits, kWhite); }};
 
 }  // namespace tombolario::pictures

@@ -11,7 +11,7 @@ namespace tombolario::pictures {
 // The main menu; the last three are cursors.
 extern const PictureStore commpr, Picture3, Picture4, Label13, Label4, Label9;
 // The packs of cards.
-extern const PictureStore Picture1, Picture11;
+extern const PictureStore Picture1, Picture11, ramcar;
 // Video poker.
 extern const PictureStore Pictcomvidpok, segn, CONTPOK1, CONTPOK2, SALVPOK1, SALVPOK2, striscie;
 // Poker against the computer; the first is the back of a card.
@@ -19,6 +19,9 @@ extern const PictureStore ufo, Pictcompok, Picture5;
 // Domino: the faces, the blank tile, the flags of the numbers 0 to 6.
 extern const PictureStore dominob, domin, spagnadom, brasiledom, giapponedom, usadom, sveziadom,
     portogallodom, danimarcadom, tabdom, Commdomban, passadomban;
+// Ramino.
+extern const PictureStore PicRAM3, rampul1, rampul2, ramlas, scambiaram, RAMRESULT, rampar, ramvin, ramper,
+    Picram;
 // The chain game.
 extern const PictureStore INICAT, CoNTCAT, FINECA;
 

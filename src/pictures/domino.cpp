@@ -29,22 +29,24 @@ void drawBlank(Painter& painter, int) {
   painter.line({0, kTile.h}, {kTile.w, 0}, kBlack, 1);
 }
 
+void drawScore(Painter& painter, int) {
+  constexpr Inks kName{kBlack, kGreen};
+  constexpr Inks kHeading{kYellow, kRed};
+  scoreCorner(painter, "", {kBlack, kWhite});
+  scoreNames(painter, kName, kName);
+  scoreColumn(painter, 0, "PEDINE", kHeading, kWhite);
+  scoreColumn(painter, 1, "SCORE", kHeading, kWhite);
+}
+
 constexpr Size sizeOfTile(int) { return kTileSize; }
 
 }  // namespace
 
 constinit const PictureStore dominob{"dominob", 0, kFaces, true, sizeOfTile, drawTile};
 constinit const PictureStore domin{"domin", 56, 1, true, sizeOfTile, drawBlank};
-constinit const PictureStore tabdom{"tabdom",
-                                    0,
-                                    1,
-                                    false,
-                                    [](int) {
-                                      return Size{229, 81};
-                                    },
-                                    [](Painter& painter, int) {
-                                      scoreTable(painter, {"PEDINE", "SCORE"});
-                                    }};
+constinit const PictureStore tabdom{"tabdom", 0, 1, false, [](int) {
+                                      return Size{229, kScoreHeight}; },
+                                    drawScore};
 constinit const PictureStore Commdomban =
     plateStore<"SCELTA COMPUTER", Size{124, 14}, kYellow, kRed>("Commdomban");
 constinit const PictureStore passadomban = plateStore<"PASSA", Size{43, 13}, kBlack, kYellow>("passadomban");

@@ -53,18 +53,19 @@ void drawCombinations(Painter& painter, int) {
   }
 }
 
+void drawScore(Painter& painter, int) {
+  scoreCorner(painter, "", {kBlack, kWhite});
+  scoreNames(painter, {kWhite, kRed}, {kWhite, kRed});
+  scoreColumn(painter, 0, "SCORE", {kBlack, 0xFFFFBF}, kWhite);
+}
+
 }  // namespace
 
 constinit const PictureStore ufo{"ufo", 0, 1, false, [](int) { return kBackSize; }, drawSaucer};
 constinit const PictureStore Pictcompok{"Pictcompok",    0, 1, false, [](int) { return kCombinationsSize; },
                                         drawCombinations};
-constinit const PictureStore Picture5{"Picture5",
-                                      0,
-                                      1,
-                                      false,
-                                      [](int) {
-                                        return Size{165, 81};
-                                      },
-                                      [](Painter& painter, int) { scoreTable(painter, {"SCORE"}); }};
+constinit const PictureStore Picture5{"Picture5", 0, 1, false, [](int) {
+                                        return Size{165, kScoreHeight}; },
+                                      drawScore};
 
 }  // namespace tombolario::pictures

@@ -6,34 +6,37 @@ namespace tombolario::pictures {
 
 namespace {
 
-constexpr double kNameColumn = 101;
-constexpr double kValueColumn = 64;
-constexpr double kHeadRow = 21;
-constexpr double kSideRow = 30;
+constexpr double kValuesWidth = 64;
+// The lines are a pixel wide, and every cell shares them with its neighbours.
+constexpr double kHead = 0;
+constexpr double kComputer = 20;
+constexpr double kHuman = 50;
+constexpr double kHeadHeight = 21;
+constexpr double kSideHeight = 31;
 
-/// A cell with an edge all around, which it shares with the cells beside and below it.
-void cell(Painter& painter, const Rect& box, const char* text, Rgb ink, Rgb ground) {
-  painter.fillRect(box, ground);
+void cell(Painter& painter, const Rect& box, const char* text, Inks inks) {
+  painter.fillRect(box, inks.ground);
   painter.outlineRect(box, kBlack, 1);
-  fittedText(painter, box.inset(5), text, lettering(9), ink);
+  fittedText(painter, box.inset(5), text, lettering(9), inks.text);
 }
 
 }  // namespace
 
-void scoreTable(Painter& painter, std::initializer_list<const char*> headings) {
-  const double computer = kHeadRow - 1;
-  const double human = computer + kSideRow;
-  cell(painter, {0, 0, kNameColumn, kHeadRow}, "", kWhite, kWhite);
-  cell(painter, {0, computer, kNameColumn, kSideRow + 1}, "COMPUTER", kBlack, kGreen);
-  cell(painter, {0, human, kNameColumn, kSideRow + 1}, "HUMAN", kBlack, kGreen);
-  double left = kNameColumn - 1;
-  for (const char* heading : headings) {
-    const double width = kValueColumn + 1;
-    cell(painter, {left, 0, width, kHeadRow}, heading, kYellow, kRed);
-    cell(painter, {left, computer, width, kSideRow + 1}, "", kWhite, kWhite);
-    cell(painter, {left, human, width, kSideRow + 1}, "", kWhite, kWhite);
-    left += kValueColumn;
-  }
+void scoreCorner(Painter& painter, const char* text, Inks inks) {
+  cell(painter, {0, kHead, kNamesWidth, kHeadHeight}, text, inks);
+}
+
+void scoreNames(Painter& painter, Inks computer, Inks human) {
+  cell(painter, {0, kComputer, kNamesWidth, kSideHeight}, "COMPUTER", computer);
+  cell(painter, {0, kHuman, kNamesWidth, kSideHeight}, "HUMAN", human);
+}
+
+void scoreColumn(Painter& painter, int column, const char* heading, Inks head, Rgb values) {
+  const double left = kNamesWidth - 1 + column * kValuesWidth;
+  const double width = kValuesWidth + 1;
+  cell(painter, {left, kHead, width, kHeadHeight}, heading, head);
+  cell(painter, {left, kComputer, width, kSideHeight}, "", {kBlack, values});
+  cell(painter, {left, kHuman, width, kSideHeight}, "", {kBlack, values});
 }
 
 }  // namespace tombolario::pictures

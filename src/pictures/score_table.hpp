@@ -1,13 +1,23 @@
 #pragma once
 
-#include <initializer_list>
-
 #include "shell/painter.hpp"
 
+/// The score tables: 81 pixels high, a column of 101 pixels for the names of the sides, "COMPUTER" above
+/// "HUMAN", then 64 for each column of values. The values are labels that lie on the table.
 namespace tombolario::pictures {
 
-/// A table of two sides, 81 pixels high: 101 pixels for their names, "COMPUTER" above "HUMAN", and 64 for a
-/// column under each heading. The values and the corner are left to labels that lie on it.
-void scoreTable(Painter& painter, std::initializer_list<const char*> headings);
+inline constexpr int kNamesWidth = 101;
+inline constexpr int kScoreHeight = 81;
+
+struct Inks {
+  Rgb text;
+  Rgb ground;
+};
+
+/// The cell above the names.
+void scoreCorner(Painter& painter, const char* text, Inks inks);
+void scoreNames(Painter& painter, Inks computer, Inks human);
+/// A column of values, counted from 0, under its heading.
+void scoreColumn(Painter& painter, int column, const char* heading, Inks head, Rgb values);
 
 }  // namespace tombolario::pictures

@@ -29,7 +29,7 @@ struct Room::Screens {
   videopoker::Table videopoker;
   domino::Table domino;
   chain::Table chain{form};
-  ramino::Table ramino{form};
+  ramino::Table ramino;
   mahjongg::Table mahjongg{form};
 
   std::array<Frame*, 12> all() {
@@ -43,7 +43,7 @@ struct Room::Screens {
 };
 
 Room::Screens::Screens(Host& host)
-    : menu(form, host), poker(form, host), videopoker(form, host), domino(form, host) {
+    : menu(form, host), poker(form, host), videopoker(form, host), domino(form, host), ramino(form, host) {
   opens(1, poker.Frame2);
   opens(2, videopoker.Frame3);
   opens(3, domino.FRAME5);
@@ -81,18 +81,21 @@ void Room::Screens::leadsBack(Button& button, Frame& screen) {
 /// shows at each deal takes it at the deal.
 void Room::Screens::giveCursors() {
   giveCursor(menu.Label13.MouseIcon,
-             {&menu.CLINK[1],       &menu.CLINK[2],       &videopoker.Command4, &videopoker.Command7,
-              &videopoker.Command8, &videopoker.Command9, &videopoker.Command1, &videopoker.Command3,
-              &videopoker.Command5, &poker.Command11,     &poker.Command33,     &poker.Command55,
-              &poker.Command15,     &videopoker.MENUVP,   &poker.menupok,       &ramino.GIOCORAM,
-              &ramino.MENURAM,      &poker.Command44,     &menu.commpr[1],      &menu.commpr[2],
-              &menu.commpr[3],      &menu.commpr[4],      &menu.commpr[5],      &menu.commpr[6],
-              &domino.giocodom,     &domino.MENUDOM,      &domino.FINEDOM,      &domino.NUOVAPARDOM,
-              &domino.passadomban,  &domino.Commdomban,   &chain.menucat,       &chain.CoNTCAT,
-              &chain.INICAT,        &chain.FINECA,        &ramino.ramesc,       &mahjongg.Command17});
-  giveCursor(menu.Label4.MouseIcon, {&domino.HScrolldom});
-  giveCursor(menu.Label9.MouseIcon, {&poker.Op1, &poker.Op2, &domino.Opdom1, &domino.Opdom2, &domino.Opdom3,
-                                     &domino.Opdom4, &poker.Option3, &poker.Option4});
+             {&menu.CLINK[1],       &menu.CLINK[2],       &videopoker.Command4,   &videopoker.Command7,
+              &videopoker.Command8, &videopoker.Command9, &videopoker.Command1,   &videopoker.Command3,
+              &videopoker.Command5, &poker.Command11,     &poker.Command33,       &poker.Command55,
+              &poker.Command15,     &videopoker.MENUVP,   &poker.menupok,         &ramino.GIOCORAM,
+              &ramino.MENURAM,      &poker.Command44,     &menu.commpr[1],        &menu.commpr[2],
+              &menu.commpr[3],      &menu.commpr[4],      &menu.commpr[5],        &menu.commpr[6],
+              &domino.giocodom,     &domino.MENUDOM,      &domino.FINEDOM,        &domino.NUOVAPARDOM,
+              &domino.passadomban,  &domino.Commdomban,   &chain.menucat,         &chain.CoNTCAT,
+              &chain.INICAT,        &chain.FINECA,        &ramino.mazzoram,       &ramino.tavoloram,
+              &ramino.ramturncom,   &ramino.ramlas,       &ramino.Continuaramino, &ramino.ALTRORAM,
+              &ramino.ramesc,       &ramino.scambiaram,   &mahjongg.Command17});
+  giveCursor(menu.Label4.MouseIcon, {&domino.HScrolldom, &ramino.VScrollram1});
+  giveCursor(menu.Label9.MouseIcon,
+             {&poker.Op1, &poker.Op2, &domino.Opdom1, &domino.Opdom2, &domino.Opdom3, &domino.Opdom4,
+              &ramino.Opram1, &ramino.Opram2, &poker.Option3, &poker.Option4});
 }
 
 Room::Room(Host& host) : screens_(std::make_unique<Screens>(host)) {}
@@ -101,6 +104,7 @@ Room::~Room() = default;
 
 void Room::Form_Load() {
   screens_->domino.inizioDOMINO();
+  screens_->ramino.start();
   screens_->poker.start();
   screens_->giveCursors();
 }
