@@ -78,6 +78,12 @@ BENCHMARK_CAPTURE(repaint, RaminoTable, {"commpr(5)", "GIOCORAM", "mazzoram"})
     ->Arg(4)
     ->Unit(benchmark::kMillisecond);
 
+BENCHMARK_CAPTURE(repaint, ChainTable, {"commpr(4)", "INICAT"})
+    ->Arg(1)
+    ->Arg(2)
+    ->Arg(4)
+    ->Unit(benchmark::kMillisecond);
+
 /// Moves, presses and releases all over the room, which play on by themselves.
 void mouseEvents(benchmark::State& state) {
   Played played;

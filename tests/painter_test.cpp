@@ -187,6 +187,12 @@ TEST(Pictures, ShowTheirGroundAndInk) {
                                {"ramvin", {0xFF00FF, kYellow, kRed, kWhite, kBlue}},
                                {"ramper", {0xFF00FF, kYellow, kRed, kWhite, kBlue}},
                                {"Picram", {0xC0C0C0, kBlack, kRed, kBlue, kWhite, kYellow}},
+                               {"Picture2(0)", {kWhite, kBlack, kRed, 0x800000}},
+                               {"Picture2(8)", {kWhite, kBlack, kBlue, 0x008000}},
+                               {"pictca(0)", {kGreen, kBlue}},
+                               {"CARCAT", {kRed, kWhite}},
+                               {"SC1", {kYellow, 0xC0C0C0}},
+                               {"SC2", {kYellow, kRed}},
                                {"FINECA", {kRed, kWhite}}};
   for (const auto& [name, colours] : told) {
     const PictureId picture = pictures::find(name);
@@ -270,9 +276,9 @@ TEST(Pictures, ALitRowLiesRightOnItsRowOfThePayTable) {
 /// are pure ground.
 TEST(Pictures, TheTextOfAPlateKeepsOffItsEdge) {
   for (const double scale : {1.0, 1.25, 1.5, 2.0, 3.3}) {
-    for (const char* name :
-         {"commpr(4)", "CONTPOK2", "SALVPOK2", "INICAT", "CoNTCAT", "FINECA", "Pictcompok", "Commdomban",
-          "passadomban", "rampul1", "rampul2", "ramlas", "scambiaram", "Picram"}) {
+    for (const char* name : {"commpr(4)", "CONTPOK2", "SALVPOK2", "INICAT", "CoNTCAT", "FINECA", "Pictcompok",
+                             "Commdomban", "passadomban", "rampul1", "rampul2", "ramlas", "scambiaram",
+                             "Picram", "CARCAT", "SALVACAT", "SC1"}) {
       const PictureId picture = pictures::find(name);
       Canvas canvas(picture.size(), scale);
       picture.draw(canvas.painter);

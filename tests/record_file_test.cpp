@@ -25,8 +25,7 @@ TEST_F(RecordFileTest, ReadingAMissingFileLeavesAnEmptyOne) {
 }
 
 TEST_F(RecordFileTest, NumbersAreLittleEndianAtTheStartOfTheirRecord) {
-  EXPECT_TRUE(file.write(1, 0x1234));
-  EXPECT_TRUE(file.write(2, -2));
+  EXPECT_TRUE(file.write({0x1234, -2}));
   const std::string content = contentOf(path);
   ASSERT_EQ(content.size(), 42U);
   EXPECT_EQ(content.substr(0, 2), "\x34\x12");
@@ -36,12 +35,14 @@ TEST_F(RecordFileTest, NumbersAreLittleEndianAtTheStartOfTheirRecord) {
   EXPECT_EQ(file.read(3), std::nullopt);
 }
 
-TEST_F(RecordFileTest, AWriteTouchesNothingButItsTwoBytesAndAReadNothingAtAll) {
+TEST_F(RecordFileTest, AWriteTouchesNothingButItsNumbersAndAReadNothingAtAll) {
   std::string content(4000, 'x');
   writeFile(path, content);
   EXPECT_EQ(file.read(2), 'x' << 8 | 'x');
   EXPECT_EQ(contentOf(path), content);
-  EXPECT_TRUE(file.write(2, 7));
+  EXPECT_TRUE(file.write({8, 7}));
+  content[0] = '\10';
+  content[1] = '\0';
   content[40] = '\7';
   content[41] = '\0';
   EXPECT_EQ(contentOf(path), content);
@@ -56,23 +57,23 @@ TEST_F(RecordFileTest, HalfANumberIsNone) {
 TEST_F(RecordFileTest, WhateverStandsInTheWayIsLeftAsItIs) {
   std::filesystem::create_directory(path);
   EXPECT_EQ(file.read(1), std::nullopt);
-  EXPECT_FALSE(file.write(1, 5));
+  EXPECT_FALSE(file.write({5}));
   EXPECT_TRUE(std::filesystem::is_directory(path));
   std::filesystem::remove(path);
 
   ASSERT_EQ(mkfifo(path.c_str(), 0600), 0);  // to open it would wait for the other end
   EXPECT_EQ(file.read(1), std::nullopt);
-  EXPECT_FALSE(file.write(1, 5));
+  EXPECT_FALSE(file.write({5}));
   std::filesystem::remove(path);
 
   std::filesystem::create_symlink(directory.path() / "nowhere", path);
   EXPECT_EQ(file.read(1), std::nullopt);
-  EXPECT_FALSE(file.write(1, 5));
+  EXPECT_FALSE(file.write({5}));
   EXPECT_TRUE(std::filesystem::is_symlink(path));
 
   const RecordFile lost(directory.path() / "no" / "such" / "place.dat");
   EXPECT_EQ(lost.read(1), std::nullopt);
-  EXPECT_FALSE(lost.write(1, 5));
+  EXPECT_FALSE(lost.write({5}));
 }
 
 /// Root may write everything; for as long as this lives the process is an ordinary user.
@@ -95,7 +96,7 @@ class OrdinaryUser {
 
 TEST_F(RecordFileTest, WithoutTheRightToWriteAFileIsReadAndADirectoryKeptAsItIs) {
   using std::filesystem::perms;
-  ASSERT_TRUE(file.write(1, 99));
+  ASSERT_TRUE(file.write({99}));
   constexpr auto kRead = perms::owner_read | perms::group_read | perms::others_read;
   constexpr auto kEnter = perms::owner_exec | perms::group_exec | perms::others_exec;
   std::filesystem::permissions(path, kRead);
@@ -103,27 +104,29 @@ TEST_F(RecordFileTest, WithoutTheRightToWriteAFileIsReadAndADirectoryKeptAsItIs)
   {
     const OrdinaryUser user;
     EXPECT_EQ(file.read(1), 99);
-    EXPECT_FALSE(file.write(1, 5));
+    EXPECT_FALSE(file.write({5}));
     const RecordFile missing(directory.path() / "missing.dat");
     EXPECT_EQ(missing.read(1), std::nullopt);
-    EXPECT_FALSE(missing.write(1, 5));
+    EXPECT_FALSE(missing.write({5}));
   }
   EXPECT_EQ(file.read(1), 99);
 }
 
 TEST_F(RecordFileTest, AFullDiskKeepsWhatIsStored) {
-  ASSERT_TRUE(file.write(1, 99));
+  ASSERT_TRUE(file.write({99}));
   // No file may grow past two bytes.
   rlimit before{};
   ASSERT_EQ(getrlimit(RLIMIT_FSIZE, &before), 0);
   const rlimit small{2, before.rlim_max};
   auto* handler = std::signal(SIGXFSZ, SIG_IGN);
   ASSERT_EQ(setrlimit(RLIMIT_FSIZE, &small), 0);
-  const bool grown = file.write(2, 5);
-  const bool kept = file.write(1, 98);
+  const bool grown = file.write({97, 5});
+  const std::string whole = contentOf(path);
+  const bool kept = file.write({98});
   setrlimit(RLIMIT_FSIZE, &before);
   std::signal(SIGXFSZ, handler);
   EXPECT_FALSE(grown);
+  EXPECT_EQ(whole, std::string("\x63\0", 2)) << "a write that fails changes nothing";
   EXPECT_TRUE(kept);
   EXPECT_EQ(file.read(1), 98);
   EXPECT_EQ(file.read(2), std::nullopt);

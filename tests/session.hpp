@@ -12,6 +12,16 @@
 
 namespace tombolario {
 
+// What a failed expectation shows.
+template <class Value>
+void PrintTo(const Property<Value>& property, std::ostream* out) {
+  *out << testing::PrintToString(property.get());
+}
+inline void PrintTo(const Colour& colour, std::ostream* out) {
+  *out << (colour.isSystem() ? "system " : "") << std::hex << colour.rgb() << std::dec;
+}
+inline void PrintTo(const PictureId& picture, std::ostream* out) { *out << picture.name(); }
+
 /// A directory of its own for the data files of one test, gone after it.
 class TemporaryDirectory {
  public:

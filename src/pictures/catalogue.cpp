@@ -12,8 +12,9 @@ constexpr std::array kStores{
     &SALVPOK2,   &striscie,   &ufo,           &Pictcompok, &Picture5,  &dominob,       &domin,
     &spagnadom,  &brasiledom, &giapponedom,   &usadom,     &sveziadom, &portogallodom, &danimarcadom,
     &tabdom,     &Commdomban, &passadomban,   &PicRAM3,    &rampul1,   &rampul2,       &ramlas,
-    &scambiaram, &RAMRESULT,  &rampar,        &ramvin,     &ramper,    &Picram,        &INICAT,
-    &CoNTCAT,    &FINECA};
+    &scambiaram, &RAMRESULT,  &rampar,        &ramvin,     &ramper,    &Picram,        &Picture2,
+    &pictca,     &INICAT,     &CoNTCAT,       &CARCAT,     &SALVACAT,  &FINECA,        &SC1,
+    &SC2};
 
 }  // namespace
 

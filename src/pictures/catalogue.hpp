@@ -23,7 +23,7 @@ extern const PictureStore dominob, domin, spagnadom, brasiledom, giapponedom, us
 extern const PictureStore PicRAM3, rampul1, rampul2, ramlas, scambiaram, RAMRESULT, rampar, ramvin, ramper,
     Picram;
 // The chain game.
-extern const PictureStore INICAT, CoNTCAT, FINECA;
+extern const PictureStore Picture2, pictca, INICAT, CoNTCAT, CARCAT, SALVACAT, FINECA, SC1, SC2;
 
 /// All stores, in the order above.
 std::span<const PictureStore* const> catalogue();

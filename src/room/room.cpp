@@ -28,7 +28,7 @@ struct Room::Screens {
   poker::Table poker;
   videopoker::Table videopoker;
   domino::Table domino;
-  chain::Table chain{form};
+  chain::Table chain;
   ramino::Table ramino;
   mahjongg::Table mahjongg{form};
 
@@ -43,7 +43,12 @@ struct Room::Screens {
 };
 
 Room::Screens::Screens(Host& host)
-    : menu(form, host), poker(form, host), videopoker(form, host), domino(form, host), ramino(form, host) {
+    : menu(form, host),
+      poker(form, host),
+      videopoker(form, host),
+      domino(form, host),
+      chain(form, host),
+      ramino(form, host) {
   opens(1, poker.Frame2);
   opens(2, videopoker.Frame3);
   opens(3, domino.FRAME5);
@@ -56,7 +61,7 @@ Room::Screens::Screens(Host& host)
   leadsBack(ramino.MENURAM, ramino.frame6);
   leadsBack(mahjongg.Command17, mahjongg.Frame7);
   chain.menucat.onClick = [this] {
-    chain.CoNTCAT.Enabled = false;
+    chain.leave();
     changeScreen(chain.Frame4, menu.Frameprincipale);
   };
   videopoker.MENUVP.onClick = [this] {
@@ -81,21 +86,22 @@ void Room::Screens::leadsBack(Button& button, Frame& screen) {
 /// shows at each deal takes it at the deal.
 void Room::Screens::giveCursors() {
   giveCursor(menu.Label13.MouseIcon,
-             {&menu.CLINK[1],       &menu.CLINK[2],       &videopoker.Command4,   &videopoker.Command7,
-              &videopoker.Command8, &videopoker.Command9, &videopoker.Command1,   &videopoker.Command3,
-              &videopoker.Command5, &poker.Command11,     &poker.Command33,       &poker.Command55,
-              &poker.Command15,     &videopoker.MENUVP,   &poker.menupok,         &ramino.GIOCORAM,
-              &ramino.MENURAM,      &poker.Command44,     &menu.commpr[1],        &menu.commpr[2],
-              &menu.commpr[3],      &menu.commpr[4],      &menu.commpr[5],        &menu.commpr[6],
-              &domino.giocodom,     &domino.MENUDOM,      &domino.FINEDOM,        &domino.NUOVAPARDOM,
-              &domino.passadomban,  &domino.Commdomban,   &chain.menucat,         &chain.CoNTCAT,
-              &chain.INICAT,        &chain.FINECA,        &ramino.mazzoram,       &ramino.tavoloram,
-              &ramino.ramturncom,   &ramino.ramlas,       &ramino.Continuaramino, &ramino.ALTRORAM,
-              &ramino.ramesc,       &ramino.scambiaram,   &mahjongg.Command17});
+             {&menu.CLINK[1],       &menu.CLINK[2],       &videopoker.Command4, &videopoker.Command7,
+              &videopoker.Command8, &videopoker.Command9, &videopoker.Command1, &videopoker.Command3,
+              &videopoker.Command5, &poker.Command11,     &poker.Command33,     &poker.Command55,
+              &poker.Command15,     &videopoker.MENUVP,   &poker.menupok,       &ramino.GIOCORAM,
+              &ramino.MENURAM,      &poker.Command44,     &menu.commpr[1],      &menu.commpr[2],
+              &menu.commpr[3],      &menu.commpr[4],      &menu.commpr[5],      &menu.commpr[6],
+              &domino.giocodom,     &domino.MENUDOM,      &domino.FINEDOM,      &domino.NUOVAPARDOM,
+              &domino.passadomban,  &domino.Commdomban,   &chain.menucat,       &chain.SALVACAT,
+              &chain.CARCAT,        &chain.CoNTCAT,       &chain.INICAT,        &chain.FINECA,
+              &chain.nmcat,         &chain.SOSTITCAT,     &chain.SCAMBIA,       &ramino.mazzoram,
+              &ramino.tavoloram,    &ramino.ramturncom,   &ramino.ramlas,       &ramino.Continuaramino,
+              &ramino.ALTRORAM,     &ramino.ramesc,       &ramino.scambiaram,   &mahjongg.Command17});
   giveCursor(menu.Label4.MouseIcon, {&domino.HScrolldom, &ramino.VScrollram1});
   giveCursor(menu.Label9.MouseIcon,
              {&poker.Op1, &poker.Op2, &domino.Opdom1, &domino.Opdom2, &domino.Opdom3, &domino.Opdom4,
-              &ramino.Opram1, &ramino.Opram2, &poker.Option3, &poker.Option4});
+              &ramino.Opram1, &ramino.Opram2, &chain.Optca1, &chain.Optca2, &poker.Option3, &poker.Option4});
 }
 
 Room::Room(Host& host) : screens_(std::make_unique<Screens>(host)) {}
@@ -104,6 +110,7 @@ Room::~Room() = default;
 
 void Room::Form_Load() {
   screens_->domino.inizioDOMINO();
+  screens_->chain.start();
   screens_->ramino.start();
   screens_->poker.start();
   screens_->giveCursors();

@@ -56,7 +56,11 @@ void PictureBox::draw(Painter& painter, const Rect& bounds) const {
 void Image::draw(Painter& painter, const Rect& bounds) const {
   const PictureId& picture = Picture;
   const Size size = picture.size();
-  painter.enter(bounds, std::min(bounds.w / size.width, bounds.h / size.height));
+  const double zoom = std::min(bounds.w / size.width, bounds.h / size.height);
+  if (zoom >= 1) return drawCentred(painter, bounds, picture, !Enabled);
+  painter.enter({bounds.x + (bounds.w - size.width * zoom) / 2,
+                 bounds.y + (bounds.h - size.height * zoom) / 2, size.width * zoom, size.height * zoom},
+                zoom);
   picture.draw(painter);
   painter.leave();
 }

@@ -37,11 +37,11 @@ class PictureBox : public Control {
   int inset() const override { return border() == Border::Single ? kTwipsPerPixel : 0; }
 };
 
-/// A picture at the size of its box, with its own proportions.
+/// A picture without a ground, in the middle of the box: at its own size, or smaller where the box is.
 class Image : public Control {
  public:
-  Image(Control& parent, Name name, Box box, PictureId picture)
-      : Control(parent, name, box, "", {.picture = picture}) {}
+  Image(Control& parent, Name name, Box box, PictureId picture, bool visible = true)
+      : Control(parent, name, box, "", {.picture = picture, .visible = visible}) {}
 
  private:
   void draw(Painter& painter, const Rect& bounds) const override;

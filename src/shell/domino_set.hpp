@@ -3,20 +3,14 @@
 #include <cstdint>
 
 #include "shell/slots.hpp"
+#include "shell/tile.hpp"
 
 namespace tombolario {
 
+/// The tiles of domino bear the numbers 0 to 6.
 inline constexpr int kNumbers = 7;
 inline constexpr int kTiles = 28;
 inline constexpr int kFaces = 2 * kTiles;
-
-/// A tile by its two numbers, 0 to 6, as it lies: the first at the left.
-struct Tile {
-  std::int16_t first = 0;
-  std::int16_t second = 0;
-
-  constexpr bool bears(int number) const { return first == number || second == number; }
-};
 
 /// The set, in its two ways round: faces 0 to 27 are the tiles with the smaller number first, face k + 28
 /// is face k reversed.

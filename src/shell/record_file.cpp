@@ -3,12 +3,13 @@
 #include <array>
 #include <cstdio>
 #include <memory>
+#include <vector>
 
 namespace tombolario {
 
 namespace {
 
-constexpr long kRecordSize = 40;
+constexpr std::size_t kRecordSize = 40;
 
 struct Closer {
   void operator()(std::FILE* file) const { std::fclose(file); }
@@ -26,30 +27,46 @@ File open(const std::filesystem::path& path, const char* mode) {
     return nullptr;
   }
   File file(std::fopen(path.string().c_str(), mode));
-  // Without a buffer the two bytes go out in one piece, and nothing is written back that was only read.
+  // Without a buffer what is written goes out in one piece, and nothing is written back that was only read.
   if (file != nullptr) std::setvbuf(file.get(), nullptr, _IONBF, 0);
   return file;
 }
 
-bool seek(std::FILE* file, int record) { return std::fseek(file, (record - 1) * kRecordSize, SEEK_SET) == 0; }
+bool put(std::FILE* file, long place, const unsigned char* bytes, std::size_t count) {
+  return std::fseek(file, place, SEEK_SET) == 0 && std::fwrite(bytes, 1, count, file) == count;
+}
 
 }  // namespace
 
 std::optional<std::int16_t> RecordFile::read(int record) const {
   const File file = open(path_, "rb");
   std::array<unsigned char, 2> bytes{};
-  if (file == nullptr || !seek(file.get(), record)) return std::nullopt;
+  if (file == nullptr) return std::nullopt;
+  if (std::fseek(file.get(), (record - 1) * static_cast<long>(kRecordSize), SEEK_SET) != 0)
+    return std::nullopt;
   if (std::fread(bytes.data(), 1, bytes.size(), file.get()) != bytes.size()) return std::nullopt;
   return static_cast<std::int16_t>(bytes[0] | bytes[1] << 8);
 }
 
-bool RecordFile::write(int record, std::int16_t value) const {
+bool RecordFile::write(std::initializer_list<std::int16_t> values) const {
   const File file = open(path_, "r+b");
-  const auto word = static_cast<std::uint16_t>(value);
-  const std::array<unsigned char, 2> bytes{static_cast<unsigned char>(word & 0xFF),
-                                           static_cast<unsigned char>(word >> 8)};
-  return file != nullptr && seek(file.get(), record) &&
-         std::fwrite(bytes.data(), 1, bytes.size(), file.get()) == bytes.size();
+  if (file == nullptr) return false;
+  // One write from the first number to the last, over what lies between them now.
+  std::vector<unsigned char> bytes((values.size() - 1) * kRecordSize + 2);
+  const std::size_t present = std::fread(bytes.data(), 1, bytes.size(), file.get());
+  if (std::ferror(file.get()) != 0) return false;
+  // First the room, so that a full disk is met before anything that is stored has changed.
+  const std::size_t missing = bytes.size() - present;
+  if (missing > 0 && !put(file.get(), static_cast<long>(present), bytes.data() + present, missing))
+    return false;
+  auto place = bytes.begin();
+  for (const std::int16_t value : values) {
+    const auto word = static_cast<std::uint16_t>(value);
+    place[0] = static_cast<unsigned char>(word & 0xFF);
+    place[1] = static_cast<unsigned char>(word >> 8);
+    if (&value != values.end() - 1) place += kRecordSize;
+  }
+  return put(file.get(), 0, bytes.data(), bytes.size());
 }
 
 }  // namespace tombolario

@@ -2,6 +2,7 @@
 
 #include <cstdint>
 #include <filesystem>
+#include <initializer_list>
 #include <optional>
 
 namespace tombolario {
@@ -16,9 +17,9 @@ class RecordFile {
 
   /// The number of a record; nothing where the file is too short or cannot be read.
   std::optional<std::int16_t> read(int record) const;
-  /// Writes the two bytes of the number and no other; the file grows if it must and is never shortened.
-  /// False if it could not be done.
-  bool write(int record, std::int16_t value) const;
+  /// Writes the numbers of the records from the first on, all at once, and changes no other byte; the file
+  /// grows if it must and is never shortened. False if it could not be done.
+  bool write(std::initializer_list<std::int16_t> values) const;
 
  private:
   std::filesystem::path path_;

@@ -133,7 +133,7 @@ void Table::Command4_Click() {
 /// "SALVA".
 void Table::Command7_Click() {
   if (game_.worthSaving()) {
-    file().write(kBalanceRecord, static_cast<std::int16_t>(game_.balance()));
+    file().write({static_cast<std::int16_t>(game_.balance())});
   } else {
     refuseButtons();
   }
