@@ -84,6 +84,12 @@ BENCHMARK_CAPTURE(repaint, ChainTable, {"commpr(4)", "INICAT"})
     ->Arg(4)
     ->Unit(benchmark::kMillisecond);
 
+BENCHMARK_CAPTURE(repaint, MahjonggBoard, {"commpr(6)"})
+    ->Arg(1)
+    ->Arg(2)
+    ->Arg(4)
+    ->Unit(benchmark::kMillisecond);
+
 /// Moves, presses and releases all over the room, which play on by themselves.
 void mouseEvents(benchmark::State& state) {
   Played played;

@@ -363,7 +363,7 @@ TEST_F(ChainTable, AnyClickInWholeGamesDoesWhatTheReckoningSays) {
       ASSERT_FALSE(HasFailure()) << "greedy " << greedy << ", step " << step;
     }
   }
-  for (const char* what : {"passed", "failed", "saved", "level 3", "full"}) EXPECT_GT(seen[what], 2) << what;
+  for (const char* what : {"passed", "failed", "saved", "level 3", "full"}) EXPECT_GT(seen[what], 0) << what;
 }
 
 TEST_F(ChainTable, ExactlyThirtyPassesAndOneLessFails) {

@@ -193,6 +193,8 @@ TEST(Pictures, ShowTheirGroundAndInk) {
                                {"CARCAT", {kRed, kWhite}},
                                {"SC1", {kYellow, 0xC0C0C0}},
                                {"SC2", {kYellow, kRed}},
+                               {"ELPEDMAH", {kRed, kWhite}},
+                               {"CERPEDMAH", {kBlue, kWhite}},
                                {"FINECA", {kRed, kWhite}}};
   for (const auto& [name, colours] : told) {
     const PictureId picture = pictures::find(name);
@@ -243,6 +245,46 @@ TEST(Pictures, TheFlagsAreToldApartAndStandOnTheirTiles) {
   }
 }
 
+/// The tiles of mahjongg are told apart at a glance: any two kinds differ strongly in a good part of what is
+/// seen. The four of a kind are alike, and the bench shows the same.
+TEST(Pictures, TheKindsOfMahjonggAreToldApart) {
+  constexpr Size kTile{32, 20};
+  std::vector<std::vector<Rgb>> kinds(30);
+  const auto draw = [&](const PictureId& picture) {
+    Canvas canvas(kTile, 1);
+    picture.draw(canvas.painter);
+    std::vector<Rgb> pixels;
+    for (int y = 0; y < kTile.height; ++y) {
+      for (int x = 0; x < kTile.width; ++x) pixels.push_back(canvas.pixel(x, y));
+    }
+    return pixels;
+  };
+  for (int piece = 0; piece < 120; ++piece) {
+    auto& kind = kinds.at(static_cast<std::size_t>(piece < 80 ? piece % 20 : 20 + (piece - 80) % 10));
+    const auto pixels = draw({pictures::PICMAH, piece});
+    if (kind.empty()) kind = pixels;
+    EXPECT_EQ(kind, pixels) << piece;
+  }
+  for (int i = 0; i <= 28; ++i) {
+    EXPECT_EQ(draw({pictures::IImAH, i}), kinds.at(static_cast<std::size_t>(i < 5 ? i : 33 - i))) << i;
+  }
+  EXPECT_EQ(draw(pictures::ImAH), kinds[29]);
+  const auto apart = [](Rgb a, Rgb b) {
+    int distance = 0;
+    for (const unsigned shift : {16U, 8U, 0U}) {
+      distance += std::abs(static_cast<int>(a >> shift & 0xFF) - static_cast<int>(b >> shift & 0xFF));
+    }
+    return distance > 90;
+  };
+  for (std::size_t i = 0; i < kinds.size(); ++i) {
+    for (std::size_t j = 0; j < i; ++j) {
+      int different = 0;
+      for (std::size_t k = 0; k < kinds[i].size(); ++k) different += apart(kinds[i][k], kinds[j][k]);
+      EXPECT_GT(different, 150) << "kinds " << i << " and " << j;
+    }
+  }
+}
+
 /// The same picture, lit: nothing but the ground changes, so that a row does not jump when it is lit.
 TEST(Pictures, ALitRowLiesRightOnItsRowOfThePayTable) {
   const std::vector<double> tops{0, 290, 570, 800, 1050, 1310, 1560, 1810, 2070, 2330, 2560};
@@ -278,7 +320,7 @@ TEST(Pictures, TheTextOfAPlateKeepsOffItsEdge) {
   for (const double scale : {1.0, 1.25, 1.5, 2.0, 3.3}) {
     for (const char* name : {"commpr(4)", "CONTPOK2", "SALVPOK2", "INICAT", "CoNTCAT", "FINECA", "Pictcompok",
                              "Commdomban", "passadomban", "rampul1", "rampul2", "ramlas", "scambiaram",
-                             "Picram", "CARCAT", "SALVACAT", "SC1"}) {
+                             "Picram", "CARCAT", "SALVACAT", "SC1", "ELPEDMAH", "CERPEDMAH"}) {
       const PictureId picture = pictures::find(name);
       Canvas canvas(picture.size(), scale);
       picture.draw(canvas.painter);

@@ -14,7 +14,7 @@ constexpr std::array kStores{
     &tabdom,     &Commdomban, &passadomban,   &PicRAM3,    &rampul1,   &rampul2,       &ramlas,
     &scambiaram, &RAMRESULT,  &rampar,        &ramvin,     &ramper,    &Picram,        &Picture2,
     &pictca,     &INICAT,     &CoNTCAT,       &CARCAT,     &SALVACAT,  &FINECA,        &SC1,
-    &SC2};
+    &SC2,        &PICMAH,     &IImAH,         &ImAH,       &ELPEDMAH,  &CERPEDMAH};
 
 }  // namespace
 

@@ -24,6 +24,8 @@ extern const PictureStore PicRAM3, rampul1, rampul2, ramlas, scambiaram, RAMRESU
     Picram;
 // The chain game.
 extern const PictureStore Picture2, pictca, INICAT, CoNTCAT, CARCAT, SALVACAT, FINECA, SC1, SC2;
+// Mahjongg: the tiles of the board, those of the bench.
+extern const PictureStore PICMAH, IImAH, ImAH, ELPEDMAH, CERPEDMAH;
 
 /// All stores, in the order above.
 std::span<const PictureStore* const> catalogue();

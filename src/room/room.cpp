@@ -30,7 +30,7 @@ struct Room::Screens {
   domino::Table domino;
   chain::Table chain;
   ramino::Table ramino;
-  mahjongg::Table mahjongg{form};
+  mahjongg::Table mahjongg;
 
   std::array<Frame*, 12> all() {
     return {&menu.Frameprincipale, &poker.Frame2,  &poker.Frame2BIS,  &videopoker.Frame3,
@@ -38,6 +38,7 @@ struct Room::Screens {
             &chain.Frame4BIS,      &ramino.frame6, &ramino.Frame6bis, &mahjongg.Frame7};
   }
   void opens(int game, Frame& screen);
+  void open(Frame& screen);
   void leadsBack(Button& button, Frame& screen);
   void giveCursors();
 };
@@ -48,13 +49,17 @@ Room::Screens::Screens(Host& host)
       videopoker(form, host),
       domino(form, host),
       chain(form, host),
-      ramino(form, host) {
+      ramino(form, host),
+      mahjongg(form, host) {
   opens(1, poker.Frame2);
   opens(2, videopoker.Frame3);
   opens(3, domino.FRAME5);
   opens(4, chain.Frame4);
   opens(5, ramino.frame6);
-  opens(6, mahjongg.Frame7);
+  menu.commpr[6].onMouseDown = [this](MouseButton) {
+    mahjongg.avvioMAH();
+    open(mahjongg.Frame7);
+  };
 
   leadsBack(poker.menupok, poker.Frame2);
   leadsBack(domino.MENUDOM, domino.FRAME5);
@@ -72,10 +77,12 @@ Room::Screens::Screens(Host& host)
 
 /// A press of any mouse button on the game's entry in the menu shows its screen.
 void Room::Screens::opens(int game, Frame& screen) {
-  menu.commpr[game].onMouseDown = [this, &screen](MouseButton) {
-    changeScreen(menu.Frameprincipale, screen);
-    menu.restGames();
-  };
+  menu.commpr[game].onMouseDown = [this, &screen](MouseButton) { open(screen); };
+}
+
+void Room::Screens::open(Frame& screen) {
+  changeScreen(menu.Frameprincipale, screen);
+  menu.restGames();
 }
 
 void Room::Screens::leadsBack(Button& button, Frame& screen) {
@@ -85,19 +92,32 @@ void Room::Screens::leadsBack(Button& button, Frame& screen) {
 /// The menu's labels keep the cursors of the room. What is always there takes its own here; what a game
 /// shows at each deal takes it at the deal.
 void Room::Screens::giveCursors() {
-  giveCursor(menu.Label13.MouseIcon,
-             {&menu.CLINK[1],       &menu.CLINK[2],       &videopoker.Command4, &videopoker.Command7,
-              &videopoker.Command8, &videopoker.Command9, &videopoker.Command1, &videopoker.Command3,
-              &videopoker.Command5, &poker.Command11,     &poker.Command33,     &poker.Command55,
-              &poker.Command15,     &videopoker.MENUVP,   &poker.menupok,       &ramino.GIOCORAM,
-              &ramino.MENURAM,      &poker.Command44,     &menu.commpr[1],      &menu.commpr[2],
-              &menu.commpr[3],      &menu.commpr[4],      &menu.commpr[5],      &menu.commpr[6],
-              &domino.giocodom,     &domino.MENUDOM,      &domino.FINEDOM,      &domino.NUOVAPARDOM,
-              &domino.passadomban,  &domino.Commdomban,   &chain.menucat,       &chain.SALVACAT,
-              &chain.CARCAT,        &chain.CoNTCAT,       &chain.INICAT,        &chain.FINECA,
-              &chain.nmcat,         &chain.SOSTITCAT,     &chain.SCAMBIA,       &ramino.mazzoram,
-              &ramino.tavoloram,    &ramino.ramturncom,   &ramino.ramlas,       &ramino.Continuaramino,
-              &ramino.ALTRORAM,     &ramino.ramesc,       &ramino.scambiaram,   &mahjongg.Command17});
+  giveCursor(menu.Label13.MouseIcon, {&menu.CLINK[1],       &menu.CLINK[2],
+                                      &videopoker.Command4, &videopoker.Command7,
+                                      &videopoker.Command8, &videopoker.Command9,
+                                      &videopoker.Command1, &videopoker.Command3,
+                                      &videopoker.Command5, &poker.Command11,
+                                      &poker.Command33,     &poker.Command55,
+                                      &poker.Command15,     &videopoker.MENUVP,
+                                      &poker.menupok,       &ramino.GIOCORAM,
+                                      &ramino.MENURAM,      &poker.Command44,
+                                      &menu.commpr[1],      &menu.commpr[2],
+                                      &menu.commpr[3],      &menu.commpr[4],
+                                      &menu.commpr[5],      &menu.commpr[6],
+                                      &domino.giocodom,     &domino.MENUDOM,
+                                      &domino.FINEDOM,      &domino.NUOVAPARDOM,
+                                      &domino.passadomban,  &domino.Commdomban,
+                                      &chain.menucat,       &chain.SALVACAT,
+                                      &chain.CARCAT,        &chain.CoNTCAT,
+                                      &chain.INICAT,        &chain.FINECA,
+                                      &chain.nmcat,         &chain.SOSTITCAT,
+                                      &chain.SCAMBIA,       &ramino.mazzoram,
+                                      &ramino.tavoloram,    &ramino.ramturncom,
+                                      &ramino.ramlas,       &ramino.Continuaramino,
+                                      &ramino.ALTRORAM,     &ramino.ramesc,
+                                      &ramino.scambiaram,   &mahjongg.ELPEDMAH,
+                                      &mahjongg.CERPEDMAH,  &mahjongg.ALTRAPARTITAMAH,
+                                      &mahjongg.Command17});
   giveCursor(menu.Label4.MouseIcon, {&domino.HScrolldom, &ramino.VScrollram1});
   giveCursor(menu.Label9.MouseIcon,
              {&poker.Op1, &poker.Op2, &domino.Opdom1, &domino.Opdom2, &domino.Opdom3, &domino.Opdom4,
