@@ -272,7 +272,7 @@ class ChainTable : public testing::Test {
     EXPECT_EQ(plain.links(), best);
     count();
   }
-  std::string stored() { return contentOf(room.data.path() / "CATENA.dat"); }
+  std::string stored() const { return contentOf(room.data.path() / "CATENA.dat"); }
   static int numberAt(const std::string& content, std::size_t place) {
     if (content.size() < place + 2) return 0;
     const int word =
@@ -288,14 +288,14 @@ class ChainTable : public testing::Test {
 };
 
 TEST_F(ChainTable, NothingIsDealtAtTheStart) {
-  room.expect(
-      {"Label3ca Caption=0", "Label10ca Caption=0", "Label13ca Visible=0", "Label14ca Visible=0",
-       "CoNTCAT Enabled=0", "SALVACAT Enabled=0", "CARCAT Enabled=1", "Optca1 Value=1", "Optca2 Value=0",
-       "Optca2 MouseIcon=Label9", "Comsost(3) MousePointer=0", "pictca(3) Picture=pictca(3)",
-       "pictca(6) Visible=0",
-       "Text1 Caption=In questo gioco, tramite sostituzioni e scambi di \\npedine "
-       "simildomino, si deve formare una catena \\ncon queste pedine correlate tra loro come nel \\ndomino. "
-       "Ogni legame vale 1 punto.\\n"});
+  room.expect({"Label3ca Caption=0", "Label10ca Caption=0", "Label13ca Visible=0", "Label14ca Visible=0",
+               "CoNTCAT Enabled=0", "SALVACAT Enabled=0", "CARCAT Enabled=1", "Optca1 Value=1",
+               "Optca2 Value=0", "Optca2 MouseIcon=Label9", "Comsost(3) MousePointer=0",
+               "pictca(3) Picture=pictca(3)", "pictca(6) Visible=0"});
+  EXPECT_EQ(
+      room.get("Text1", "Caption"),
+      "In questo gioco, tramite sostituzioni e scambi di \\npedine simildomino, si deve formare una catena "
+      "\\ncon queste pedine correlate tra loro come nel \\ndomino. Ogni legame vale 1 punto.\\n");
   begin(false);
   room.expect({"Comsost(5) MouseIcon=Label13", "Comscam(1) MousePointer=99", "SCALABELCAT Visible=0"});
   expectSeen();

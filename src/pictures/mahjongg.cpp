@@ -33,7 +33,8 @@ template <Rgb kFirst, Rgb kSecond>
 void diagonals(Painter& painter) {
   painter.fillRect(kAll, kFirst);
   painter.enter(kAll);
-  for (double x = -20; x < 32; x += 16) {
+  for (int stripe = 0; stripe < 4; ++stripe) {
+    const double x = -20 + 16 * stripe;
     painter.fillPolygon(std::array<Vec, 4>{Vec{x, 20}, Vec{x + 8, 20}, Vec{x + 28, 0}, Vec{x + 20, 0}},
                         kSecond);
   }
