@@ -53,42 +53,37 @@ void repaint(benchmark::State& state, std::initializer_list<const char*> way) {
   }
 }
 
-BENCHMARK_CAPTURE(repaint, MainMenu, {})->Arg(1)->Arg(2)->Arg(4)->Unit(benchmark::kMillisecond);
-BENCHMARK_CAPTURE(repaint, VideoPokerTable, {"commpr(2)", "Command8"})
-    ->Arg(1)
-    ->Arg(2)
-    ->Arg(4)
-    ->Unit(benchmark::kMillisecond);
+struct Screen {
+  const char* name;
+  std::initializer_list<const char*> way;  ///< the buttons that lead to it
+};
 
-BENCHMARK_CAPTURE(repaint, PokerTable, {"commpr(1)", "Command44", "Command33"})
-    ->Arg(1)
-    ->Arg(2)
-    ->Arg(4)
-    ->Unit(benchmark::kMillisecond);
+/// The twelve screens, each as full as it gets.
+const Screen kScreens[] = {
+    {"MainMenu", {}},
+    {"PokerOptions", {"commpr(1)"}},
+    {"PokerTable", {"commpr(1)", "Command44", "Command33"}},
+    {"VideoPokerMenu", {"commpr(2)"}},
+    {"VideoPokerTable", {"commpr(2)", "Command8", "Command3"}},
+    {"DominoOptions", {"commpr(3)"}},
+    {"DominoTable", {"commpr(3)", "giocodom"}},
+    {"ChainMenu", {"commpr(4)"}},
+    {"ChainTable", {"commpr(4)", "INICAT"}},
+    {"RaminoSetup", {"commpr(5)"}},
+    {"RaminoTable", {"commpr(5)", "GIOCORAM", "mazzoram"}},
+    {"MahjonggBoard", {"commpr(6)"}},
+};
 
-BENCHMARK_CAPTURE(repaint, DominoTable, {"commpr(3)", "giocodom"})
-    ->Arg(1)
-    ->Arg(2)
-    ->Arg(4)
-    ->Unit(benchmark::kMillisecond);
-
-BENCHMARK_CAPTURE(repaint, RaminoTable, {"commpr(5)", "GIOCORAM", "mazzoram"})
-    ->Arg(1)
-    ->Arg(2)
-    ->Arg(4)
-    ->Unit(benchmark::kMillisecond);
-
-BENCHMARK_CAPTURE(repaint, ChainTable, {"commpr(4)", "INICAT"})
-    ->Arg(1)
-    ->Arg(2)
-    ->Arg(4)
-    ->Unit(benchmark::kMillisecond);
-
-BENCHMARK_CAPTURE(repaint, MahjonggBoard, {"commpr(6)"})
-    ->Arg(1)
-    ->Arg(2)
-    ->Arg(4)
-    ->Unit(benchmark::kMillisecond);
+void registerRepaints() {
+  for (const Screen& screen : kScreens) {
+    const auto run = [&screen](benchmark::State& state) { repaint(state, screen.way); };
+    benchmark::RegisterBenchmark((std::string("repaint/") + screen.name).c_str(), run)
+        ->Arg(1)
+        ->Arg(2)
+        ->Arg(4)
+        ->Unit(benchmark::kMillisecond);
+  }
+}
 
 /// Moves, presses and releases all over the room, which play on by themselves.
 void mouseEvents(benchmark::State& state) {
@@ -108,4 +103,8 @@ BENCHMARK(mouseEvents);
 }  // namespace
 }  // namespace tombolario
 
-BENCHMARK_MAIN();
+int main(int argc, char** argv) {
+  tombolario::registerRepaints();
+  benchmark::Initialize(&argc, argv);
+  benchmark::RunSpecifiedBenchmarks();
+}

@@ -2,101 +2,125 @@
 
 #include <gtest/gtest.h>
 
-#include <map>
 #include <set>
 #include <string>
+#include <vector>
 
 #include "session.hpp"
 
 namespace tombolario {
 namespace {
 
-TEST(Catalogue, HoldsEachPictureOnceAtItsSize) {
-  const std::map<std::string, Size> told{
-      {"commpr(1)", {166, 18}},
-      {"commpr(6)", {166, 18}},
-      {"Picture3", {100, 100}},
-      {"Picture4", {100, 100}},
-      {"Label13", {32, 32}},
-      {"Label4", {32, 32}},
-      {"Label9", {32, 32}},
-      {"Picture1(0)", {70, 92}},
-      {"Picture1(51)", {70, 92}},
-      {"Picture1(52)", {70, 93}},
-      {"Pictcomvidpok", {156, 191}},
-      {"CONTPOK1", {204, 18}},
-      {"CONTPOK2", {204, 18}},
-      {"SALVPOK1", {205, 18}},
-      {"SALVPOK2", {205, 18}},
-      {"striscie", {432, 196}},
-      {"INICAT", {240, 24}},
-      {"CoNTCAT", {156, 22}},
-      {"FINECA", {38, 14}},
-      {"Picture2(0)", {91, 45}},
-      {"Picture2(11)", {91, 45}},
-      {"pictca(0)", {92, 52}},
-      {"pictca(8)", {92, 52}},
-      {"CARCAT", {113, 24}},
-      {"SALVACAT", {99, 21}},
-      {"SC1", {88, 16}},
-      {"SC2", {88, 16}},
-      {"PICMAH(0)", {32, 20}},
-      {"PICMAH(119)", {32, 20}},
-      {"IImAH(0)", {32, 20}},
-      {"IImAH(28)", {32, 20}},
-      {"ImAH", {32, 20}},
-      {"ELPEDMAH", {117, 13}},
-      {"CERPEDMAH", {108, 13}},
-      {"Picture11(0)", {70, 92}},
-      {"Picture11(51)", {70, 92}},
-      {"ufo", {72, 94}},
-      {"dominob(0)", {92, 52}},
-      {"dominob(55)", {92, 52}},
-      {"domin(56)", {92, 52}},
-      {"spagnadom", {32, 20}},
-      {"brasiledom", {32, 20}},
-      {"giapponedom", {32, 20}},
-      {"usadom", {32, 20}},
-      {"sveziadom", {32, 20}},
-      {"portogallodom", {32, 20}},
-      {"danimarcadom", {32, 20}},
-      {"tabdom", {229, 81}},
-      {"Commdomban", {124, 14}},
-      {"passadomban", {43, 13}},
-      {"Pictcompok", {150, 137}},
-      {"Picture5", {165, 81}},
-      {"ramcar(0)", {40, 59}},
-      {"ramcar(51)", {40, 59}},
-      {"PicRAM3", {40, 59}},
-      {"rampul1", {37, 13}},
-      {"rampul2", {37, 15}},
-      {"ramlas", {46, 15}},
-      {"scambiaram", {46, 29}},
-      {"RAMRESULT", {165, 81}},
-      {"rampar", {101, 81}},
-      {"ramvin", {101, 81}},
-      {"ramper", {101, 81}},
-      {"Picram", {468, 142}},
+struct Told {
+  const char* name;
+  int first;
+  int last;
+  Size size;
+};
+
+TEST(Catalogue, HoldsEveryPictureAtItsSizeAndNoOther) {
+  constexpr Size kCard{70, 92};
+  constexpr Size kFlag{32, 20};
+  const std::vector<Told> told{
+      {"commpr", 1, 6, {166, 18}},
+      {"Picture3", 0, 0, {100, 100}},
+      {"Picture4", 0, 0, {100, 100}},
+      {"Label13", 0, 0, {32, 32}},
+      {"Label4", 0, 0, {32, 32}},
+      {"Label9", 0, 0, {32, 32}},
+      {"Picture1", 0, 51, kCard},
+      {"Picture1", 52, 52, {70, 93}},
+      {"Picture11", 0, 51, kCard},
+      {"ramcar", 0, 51, {40, 59}},
+      {"ufo", 0, 0, {72, 94}},
+      {"PicRAM3", 0, 0, {40, 59}},
+      {"Pictcomvidpok", 0, 0, {156, 191}},
+      {"segn", 0, 2, {156, 0}},
+      {"segn", 3, 9, {167, 0}},
+      {"segn", 10, 10, {156, 0}},
+      {"CONTPOK1", 0, 0, {204, 18}},
+      {"CONTPOK2", 0, 0, {204, 18}},
+      {"SALVPOK1", 0, 0, {205, 18}},
+      {"SALVPOK2", 0, 0, {205, 18}},
+      {"striscie", 0, 0, {432, 196}},
+      {"Pictcompok", 0, 0, {150, 137}},
+      {"Picture5", 0, 0, {165, 81}},
+      {"Picture2", 0, 11, {91, 45}},
+      {"pictca", 0, 8, {92, 52}},
+      {"INICAT", 0, 0, {240, 24}},
+      {"CoNTCAT", 0, 0, {156, 22}},
+      {"CARCAT", 0, 0, {113, 24}},
+      {"SALVACAT", 0, 0, {99, 21}},
+      {"FINECA", 0, 0, {38, 14}},
+      {"SC1", 0, 0, {88, 16}},
+      {"SC2", 0, 0, {88, 16}},
+      {"dominob", 0, 55, {92, 52}},
+      {"domin", 56, 56, {92, 52}},
+      {"spagnadom", 0, 0, kFlag},
+      {"brasiledom", 0, 0, kFlag},
+      {"giapponedom", 0, 0, kFlag},
+      {"usadom", 0, 0, kFlag},
+      {"sveziadom", 0, 0, kFlag},
+      {"portogallodom", 0, 0, kFlag},
+      {"danimarcadom", 0, 0, kFlag},
+      {"tabdom", 0, 0, {229, 81}},
+      {"Commdomban", 0, 0, {124, 14}},
+      {"passadomban", 0, 0, {43, 13}},
+      {"rampul1", 0, 0, {37, 13}},
+      {"rampul2", 0, 0, {37, 15}},
+      {"ramlas", 0, 0, {46, 15}},
+      {"scambiaram", 0, 0, {46, 29}},
+      {"RAMRESULT", 0, 0, {165, 81}},
+      {"rampar", 0, 0, {101, 81}},
+      {"ramvin", 0, 0, {101, 81}},
+      {"ramper", 0, 0, {101, 81}},
+      {"Picram", 0, 0, {468, 142}},
+      {"PICMAH", 0, 119, kFlag},
+      {"IImAH", 0, 28, kFlag},
+      {"ImAH", 0, 0, kFlag},
+      {"ELPEDMAH", 0, 0, {117, 13}},
+      {"CERPEDMAH", 0, 0, {108, 13}},
   };
   std::set<std::string> names;
-  for (const PictureStore* store : pictures::catalogue()) {
-    for (int i = store->first; i < store->first + store->count; ++i) {
-      EXPECT_TRUE(names.insert(PictureId(*store, i).name()).second) << PictureId(*store, i).name();
+  for (const auto& [store, first, last, size] : told) {
+    for (int i = first; i <= last; ++i) {
+      const bool numbered = pictures::find(store) == PictureId();
+      const std::string name = numbered ? std::string(store) + '(' + std::to_string(i) + ')' : store;
+      names.insert(name);
+      const PictureId picture = pictures::find(name);
+      ASSERT_TRUE(picture) << name;
+      EXPECT_EQ(picture.size().width, size.width) << name;
+      if (size.height > 0) {
+        EXPECT_EQ(picture.size().height, size.height) << name;
+      } else {
+        EXPECT_TRUE(picture.size().height >= 17 && picture.size().height <= 20) << name;
+      }
     }
   }
-  for (const auto& [name, size] : told) {
-    EXPECT_TRUE(names.contains(name)) << name;
-    EXPECT_EQ(pictures::find(name).size(), size) << name;
+  std::size_t count = 0;
+  for (const PictureStore* store : pictures::catalogue()) {
+    for (int i = store->first; i < store->first + store->count; ++i, ++count) {
+      EXPECT_TRUE(names.contains(PictureId(*store, i).name())) << PictureId(*store, i).name();
+    }
   }
-  EXPECT_EQ(pictures::Picture1.count, 53);
-  EXPECT_EQ(pictures::Picture11.count, 52);
-  for (int row = 0; row <= 10; ++row) {
-    const auto [width, height] = PictureId(pictures::segn, row).size();
-    EXPECT_EQ(width, row >= 3 && row <= 9 ? 167 : 156);
-    EXPECT_TRUE(height >= 17 && height <= 20) << height;
-  }
+  EXPECT_EQ(count, names.size());
   EXPECT_FALSE(pictures::find("Picture1(53)"));
   EXPECT_FALSE(pictures::find("Picture1"));
+}
+
+TEST(Catalogue, HoldsWhatEveryControlShows) {
+  Session room;
+  room.play({"start", "click commpr(6)", "click Command17", "click commpr(1)", "click Command44",
+             "click Command55", "click menupok", "click commpr(4)", "click INICAT"});
+  int shown = 0;
+  for (const Control* control : room.driver.form().controls()) {
+    for (const PictureId& picture : {control->Picture.get(), control->MouseIcon.get()}) {
+      if (!picture) continue;
+      EXPECT_EQ(pictures::find(picture.name()), picture) << control->name().text();
+      ++shown;
+    }
+  }
+  EXPECT_GT(shown, 500);
 }
 
 TEST(Catalogue, TheCursorsPointWithTheirHotSpots) {

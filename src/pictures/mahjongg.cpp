@@ -18,9 +18,7 @@ constexpr Vec kMiddle{16, 10};
 
 constexpr Rgb kDarkRed = 0x900000;
 constexpr Rgb kOrange = 0xFF8000;
-constexpr Rgb kMagenta = 0xE000C0;
-constexpr Rgb kMidGreen = 0x009030;
-constexpr Rgb kMidBlue = 0x1030D0;
+constexpr Rgb kMagenta = 0xFF00FF;
 
 using Design = void (*)(Painter&);
 
@@ -59,10 +57,13 @@ void margin(Painter& painter, Rgb field) {
   painter.fillRect(kAll.inset(3), field);
 }
 
+/// A white figure with a shade, which holds it on a bright field.
 template <char kDigit, Rgb kField>
 void numeral(Painter& painter) {
   margin(painter, kField);
-  painter.text(kAll, std::string(1, kDigit), lettering(11), kWhite, Align::Centre);
+  const std::string digit(1, kDigit);
+  painter.text(kAll.movedBy(1, 0.7), digit, lettering(11), kBlack, Align::Centre);
+  painter.text(kAll, digit, lettering(11), kWhite, Align::Centre);
 }
 
 template <Rgb kField, Rgb kFigure>
@@ -102,7 +103,7 @@ void quarters(Painter& painter) {
 }
 
 void cross(Painter& painter) {
-  painter.fillRect(kAll, kMidBlue);
+  painter.fillRect(kAll, kBlue);
   painter.fillRect({13, 2, 6, 16}, kWhite);
   painter.fillRect({4, 7, 24, 6}, kWhite);
 }
@@ -119,20 +120,18 @@ void star(Painter& painter, Vec centre, double radius, Rgb colour) {
 }
 
 void starOnGreen(Painter& painter) {
-  margin(painter, 0x50E050);
-  star(painter, {16, 10.5}, 7.5, kDarkRed);
-  disc(painter, kMiddle, 1.8, kYellow);
+  margin(painter, kGreen);
+  painter.fillEllipse({5.5, 3.4, 21, 13.2}, kDarkRed);
+  star(painter, {16, 10.3}, 6.2, kYellow);
 }
 
-/// A tulip with two leaves.
-void flowerOnBlue(Painter& painter) {
-  margin(painter, 0x70B0FF);
-  painter.fillRect({15, 9, 2, 8}, kMidGreen);
-  painter.fillPolygon(std::array<Vec, 3>{Vec{16, 17}, Vec{8, 11}, Vec{12, 17}}, kMidGreen);
-  painter.fillPolygon(std::array<Vec, 3>{Vec{16, 17}, Vec{24, 11}, Vec{20, 17}}, kMidGreen);
-  painter.fillPolygon(std::array<Vec, 7>{Vec{11, 3}, Vec{13.5, 6}, Vec{16, 3}, Vec{18.5, 6}, Vec{21, 3},
-                                         Vec{20, 10}, Vec{12, 10}},
-                      kOrange);
+void tulipOnBlue(Painter& painter) {
+  margin(painter, kBlue);
+  painter.fillEllipse({5.5, 3.4, 21, 13.2}, kWhite);
+  painter.fillRect({15.2, 10, 1.6, 6}, 0x008030);
+  painter.fillPolygon(std::array<Vec, 7>{Vec{12.5, 5.2}, Vec{14.2, 7.4}, Vec{16, 4.6}, Vec{17.8, 7.4},
+                                         Vec{19.5, 5.2}, Vec{18.8, 11}, Vec{13.2, 11}},
+                      kRed);
 }
 
 /// Between two colours, each channel by itself.
@@ -188,7 +187,7 @@ void rose(Painter& painter) {
 /// A house in a ring of blue and red.
 void ring(Painter& painter) {
   painter.fillRect(kAll, kWhite);
-  disc(painter, kMiddle, 9.5, kMidBlue);
+  disc(painter, kMiddle, 9.5, kBlue);
   disc(painter, kMiddle, 7.8, kRed);
   disc(painter, kMiddle, 6.2, kWhite);
   painter.fillPolygon(std::array<Vec, 3>{Vec{16, 5}, Vec{20.5, 9.5}, Vec{11.5, 9.5}}, kBlack);
@@ -206,19 +205,19 @@ constexpr Slots<Design, 0, kKinds - 1> kDesigns{
     numeral<'2', kRed>,
     numeral<'3', 0xB09000>,
     cross,
-    numeral<'4', kMidBlue>,
+    numeral<'4', kBlue>,
     lozenge<kWhite, kRed>,
     verticals<kRed, kYellow, kRed, kYellow>,
     numeral<'5', kMagenta>,
     lozenge<kBlue, kYellow>,
-    numeral<'6', kMidGreen>,
+    numeral<'6', kGreen>,
     bands<kGreen, kWhite, kRed>,
     checks<kOrange, kYellow, 4, 2>,
-    verticals<kMidBlue, kWhite, kRed>,
+    verticals<kBlue, kWhite, kRed>,
     lozenge<kOrange, kWhite>,
     quarters<kRed, kYellow, kBlue, kGreen>,
     starOnGreen,
-    flowerOnBlue,
+    tulipOnBlue,
     numeral<'7', kOrange>,
     bands<kBlack, kRed, kYellow>,
     diagonals<kRed, kBlack>,
