@@ -1,12 +1,11 @@
 #include <algorithm>
 #include <array>
 #include <map>
-#include <random>
 #include <set>
 
 #include "pictures/catalogue.hpp"
 #include "sanitized.hpp"
-#include "session.hpp"
+#include "table_test.hpp"
 
 namespace tombolario {
 namespace {
@@ -124,26 +123,9 @@ struct PlainGame {
   }
 };
 
-class ChainTable : public testing::Test {
+class ChainTable : public TableTest {
  protected:
-  ChainTable() { enter(room); }
-
-  void enter(Session& session) {
-    session.play({"start", "click commpr(4)"});
-    known_.clear();
-    for (Control* control : session.driver.form().controls()) {
-      known_[control->name().base][control->name().index] = control;
-    }
-  }
-  Control& control(std::string_view name) { return element(name, 0); }
-  Control& element(std::string_view name, int index) { return *known_.at(name).at(index); }
-  void click(const Control& target) {
-    Form& form = room.driver.form();
-    form.mouseMove(target.origin() + Point{target.Width / 2, target.Height / 2});
-    form.mouseDown(MouseButton::Left);
-    form.mouseUp(MouseButton::Left);
-  }
-  void click(const char* name) { click(control(name)); }
+  ChainTable() { room.play({"click commpr(4)"}); }
 
   std::array<int, 8> seenTiles() {
     std::array<int, 8> tiles{};
@@ -280,11 +262,7 @@ class ChainTable : public testing::Test {
     return word < 0x8000 ? word : word - 0x10000;
   }
 
-  Session room;
   PlainGame plain;
-
- private:
-  std::map<std::string_view, std::map<int, Control*>> known_;
 };
 
 TEST_F(ChainTable, NothingIsDealtAtTheStart) {
@@ -303,8 +281,6 @@ TEST_F(ChainTable, NothingIsDealtAtTheStart) {
 
 TEST_F(ChainTable, AnyClickInWholeGamesDoesWhatTheReckoningSays) {
   constexpr int kSteps = kSanitized ? 3'000 : 20'000;
-  std::mt19937 engine(9);
-  const auto pick = [&](int n) { return static_cast<int>(engine() % static_cast<unsigned>(n)); };
   std::map<std::string, int> seen;
   for (const bool greedy : {true, false}) {
     if (plain.onTable) giveUp();

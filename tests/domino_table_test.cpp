@@ -1,11 +1,10 @@
 #include <deque>
 #include <numeric>
-#include <random>
 
 #include "domino_reckoning.hpp"
 #include "pictures/catalogue.hpp"
 #include "sanitized.hpp"
-#include "session.hpp"
+#include "table_test.hpp"
 
 namespace tombolario {
 namespace {
@@ -145,24 +144,10 @@ PictureId faceOf(const Pair& tile) {
   return {pictures::dominob, static_cast<int>(number) + (reversed ? 28 : 0)};
 }
 
-class DominoTable : public testing::Test {
+class DominoTable : public TableTest {
  protected:
-  DominoTable() {
-    room.play({"start", "click commpr(3)"});
-    for (Control* control : room.driver.form().controls()) {
-      known_[control->name().base][control->name().index] = control;
-    }
-  }
+  DominoTable() { room.play({"click commpr(3)"}); }
 
-  Control& control(std::string_view name) { return element(name, 0); }
-  Control& element(std::string_view name, int index) { return *known_.at(name).at(index); }
-  /// A press and a release in the middle, wherever that lands.
-  void click(Control& target) {
-    Form& form = room.driver.form();
-    form.mouseMove(target.origin() + Point{target.Width / 2, target.Height / 2});
-    form.mouseDown(MouseButton::Left);
-    form.mouseUp(MouseButton::Left);
-  }
   std::vector<int> dealtOrder() {
     std::vector<int> order;
     for (int slot = 0; slot < 28; ++slot) {
@@ -272,11 +257,7 @@ class DominoTable : public testing::Test {
     plain.shown = std::clamp(30 + place, bar.Min.get(), bar.Max.get()) - 30;
   }
 
-  Session room;
   PlainMatch plain;
-
- private:
-  std::map<std::string_view, std::map<int, Control*>> known_;
 };
 
 TEST_F(DominoTable, AGameStandsReadyFromTheStart) {
@@ -304,8 +285,6 @@ TEST_F(DominoTable, AGameStandsReadyFromTheStart) {
 
 TEST_F(DominoTable, AnyClickInWholeMatchesDoesWhatTheReckoningSays) {
   constexpr int kMatches = kSanitized ? 12 : 300;
-  std::mt19937 engine(6);
-  const auto pick = [&](std::size_t n) { return static_cast<int>(engine() % n); };
   std::map<std::string, int> seen;
   for (int match = 0; match < kMatches; ++match) {
     open(match % 2 == 1, match % 4 < 2);

@@ -3,12 +3,11 @@
 #include <map>
 #include <numeric>
 #include <optional>
-#include <random>
 #include <set>
 
 #include "pictures/catalogue.hpp"
 #include "sanitized.hpp"
-#include "session.hpp"
+#include "table_test.hpp"
 
 namespace tombolario {
 namespace {
@@ -88,30 +87,8 @@ struct PlainBoard {
   }
 };
 
-class MahjonggTable : public testing::Test {
+class MahjonggTable : public TableTest {
  protected:
-  MahjonggTable() {
-    EXPECT_EQ(room("start"), "ok");
-    for (Control* control : room.driver.form().controls()) {
-      known_[control->name().base][control->name().index] = control;
-    }
-  }
-  Control& control(std::string_view name) { return element(name, 0); }
-  Control& element(std::string_view name, int index) { return *known_.at(name).at(index); }
-  Form& form() { return room.driver.form(); }
-  static Point middleOf(const Control& target) {
-    return target.origin() + Point{target.Width / 2, target.Height / 2};
-  }
-  void press(Point at, MouseButton button = MouseButton::Left) {
-    form().mouseMove(at);
-    form().mouseDown(button);
-  }
-  void clickAt(Point at) {
-    press(at);
-    form().mouseUp(MouseButton::Left);
-  }
-  void click(const char* name) { clickAt(middleOf(control(name))); }
-
   /// A board is laid; the tiles are read from the cells.
   void readBoard() {
     std::set<int> different;
@@ -152,7 +129,7 @@ class MahjonggTable : public testing::Test {
 
   // The same click in the room and in the reckoning.
   void clickCell(int cell) {
-    clickAt(middleOf(element("Commah", cell)));
+    click(middleOf(element("Commah", cell)));
     plain.click(cell);
   }
   void remove() {
@@ -165,10 +142,7 @@ class MahjonggTable : public testing::Test {
     remove();
   }
 
-  Session room;
   PlainBoard plain;
-  std::mt19937 engine{10};
-  int pick(std::size_t n) { return static_cast<int>(engine() % n); }
 
   /// An order of the tiles in which the board can be emptied, and the pairs to take, in that order.
   std::vector<int> solvableBoard(std::vector<std::pair<int, int>>& pairs) {
@@ -199,7 +173,6 @@ class MahjonggTable : public testing::Test {
   }
 
  private:
-  std::map<std::string_view, std::map<int, Control*>> known_;
   std::map<int, int> lastKind_;  // of all cells, those that are gone too
 };
 
@@ -286,10 +259,10 @@ TEST_F(MahjonggTable, NeighboursOverlapAndTheLaterOneLiesOnTop) {
   const Control& upper = element("Commah", 1);
   const Control& lower = element("Commah", 9);
   ASSERT_EQ(upper.Top + upper.Height - lower.Top, 15);
-  clickAt(lower.origin() + Point{400, 7});
+  click(lower.origin() + Point{400, 7});
   plain.click(9);
   expectSeen();
-  clickAt(lower.origin() + Point{400, -1});
+  click(lower.origin() + Point{400, -1});
   plain.click(1);
   expectSeen();
 }

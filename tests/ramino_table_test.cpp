@@ -2,13 +2,12 @@
 #include <map>
 #include <numeric>
 #include <optional>
-#include <random>
 #include <set>
 
 #include "pictures/catalogue.hpp"
 #include "ramino_reckoning.hpp"
 #include "sanitized.hpp"
-#include "session.hpp"
+#include "table_test.hpp"
 
 namespace tombolario {
 namespace {
@@ -202,32 +201,17 @@ struct PlainMatch {
   }
 };
 
-class RaminoTable : public testing::Test {
+class RaminoTable : public TableTest {
  protected:
   RaminoTable() {
-    room.play({"start", "click commpr(5)"});
-    for (Control* control : room.driver.form().controls()) {
-      known_[control->name().base][control->name().index] = control;
-    }
+    room.play({"click commpr(5)"});
     std::iota(pack_.begin(), pack_.end(), 0);
   }
-  Control& control(std::string_view name) { return element(name, 0); }
-  Control& element(std::string_view name, std::size_t index) {
-    return *known_.at(name).at(static_cast<int>(index));
-  }
-  void click(const char* name) { click(control(name)); }
-  void click(const Control& target) {
-    Form& form = room.driver.form();
-    form.mouseMove(target.origin() + Point{target.Width / 2, target.Height / 2});
-    form.mouseDown(MouseButton::Left);
-    form.mouseUp(MouseButton::Left);
-  }
-  int pick(std::size_t n) { return static_cast<int>(engine_() % n); }
 
   /// A deal by one of the three buttons, of the cards told, or of any.
   void deal(const char* button, std::vector<int> cards = {}) {
     if (cards.empty()) {
-      std::shuffle(pack_.begin(), pack_.end(), engine_);
+      std::shuffle(pack_.begin(), pack_.end(), engine);
       cards.assign(pack_.begin(), pack_.end() - 1);
     }
     if (control(button).Visible) {
@@ -417,12 +401,9 @@ class RaminoTable : public testing::Test {
     }
   }
 
-  Session room;
   PlainMatch plain;
 
  private:
-  std::map<std::string_view, std::map<int, Control*>> known_;
-  std::mt19937 engine_{8};
   std::vector<int> pack_ = std::vector<int>(52);
 };
 
