@@ -55,6 +55,7 @@ void PictureBox::draw(Painter& painter, const Rect& bounds) const {
 
 void Image::draw(Painter& painter, const Rect& bounds) const {
   const PictureId& picture = Picture;
+  if (!picture) return;
   const Size size = picture.size();
   const double zoom = std::min(bounds.w / size.width, bounds.h / size.height);
   if (zoom >= 1) return drawCentred(painter, bounds, picture, !Enabled);
