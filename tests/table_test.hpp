@@ -20,7 +20,10 @@ class TableTest : public testing::Test {
 
   Form& form() { return room.driver.form(); }
   Control& control(std::string_view name) { return element(name, 0); }
-  Control& element(std::string_view name, int index) { return *controls_.at(name).at(index); }
+  template <class Index>
+  Control& element(std::string_view name, Index index) {
+    return *controls_.at(name).at(static_cast<int>(index));
+  }
 
   static Point middleOf(const Control& target) {
     return target.origin() + Point{target.Width / 2, target.Height / 2};
