@@ -90,7 +90,7 @@ TEST(Pictures, TheirTextKeepsOffTheirEdge) {
         edge.insert({canvas.pixel(x, 0), canvas.pixel(x, canvas.height() - 1)});
       for (int y = 0; y < canvas.height(); ++y)
         edge.insert({canvas.pixel(0, y), canvas.pixel(canvas.width() - 1, y)});
-      ASSERT_EQ(edge.size(), 1U) << picture.name() << ' ' << scale;
+      EXPECT_EQ(edge.size(), 1U) << picture.name() << ' ' << scale;
     }
   }
 }

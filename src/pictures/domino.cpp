@@ -25,8 +25,10 @@ void drawTile(Painter& painter, int face) {
 
 void drawBlank(Painter& painter, int) {
   painter.fillRect(kTile, kWhite);
+  painter.enter(kTile);
   painter.line({0, 0}, {kTile.w, kTile.h}, kBlack, 1);
   painter.line({0, kTile.h}, {kTile.w, 0}, kBlack, 1);
+  painter.leave();
 }
 
 void drawScore(Painter& painter, int) {

@@ -19,10 +19,14 @@ void fittedText(Painter& painter, const Rect& box, std::string_view text, const 
 void plate(Painter& painter, Size size, double room, std::string_view text, Rgb ink, Rgb ground) {
   const Rect all{0, 0, static_cast<double>(size.width), static_cast<double>(size.height)};
   painter.fillRect(all, ground);
-  // What hangs below the line needs room in a low plate.
-  const double hanging = text.find_first_of("gjpqy") != std::string_view::npos ? 1 : 0;
-  fittedText(painter, {(all.w - room) / 2, 0, room, all.h - hanging}, text,
-             lettering(std::min(11.0, all.h - 5 - hanging)), ink);
+  double capHeight = std::min(11.0, all.h - 5);
+  double lift = 0;
+  // What hangs below the line reaches down by about a third of the capitals' height.
+  if (text.find_first_of("gjpqy()") != std::string_view::npos) {
+    lift = 1;
+    capHeight = std::min(capHeight, all.h / 1.85);
+  }
+  fittedText(painter, {(all.w - room) / 2, 0, room, all.h - lift}, text, lettering(capHeight), ink);
 }
 
 }  // namespace tombolario::pictures
