@@ -40,21 +40,26 @@ PainterCache::PainterCache() : context_(pango_font_map_create_context(pango_cair
   layout_.reset(pango_layout_new(context_.get()));
 }
 
+void PainterCache::begin(double scale) {
+  if (inner_ > 0 || (scale == scale_ && bytes_ <= kMostBytes)) return;
+  pictures_.clear();
+  bytes_ = 0;
+  scale_ = scale;
+}
+
 cairo_surface_t* PainterCache::picture(const PictureId& picture, double scale) {
-  if (scale != scale_ || bytes_ > kMostBytes) {
-    pictures_.clear();
-    bytes_ = 0;
-    scale_ = scale;
-  }
-  if (const auto kept = pictures_.find(picture); kept != pictures_.end()) return kept->second.get();
+  const Key key(picture, scale);
+  if (const auto kept = pictures_.find(key); kept != pictures_.end()) return kept->second.get();
   const Size size = picture.size();
   const int width = std::max(1, static_cast<int>(std::lround(size.width * scale)));
   const int height = std::max(1, static_cast<int>(std::lround(size.height * scale)));
   Owned<cairo_surface_t> drawn(cairo_image_surface_create(CAIRO_FORMAT_ARGB32, width, height));
+  ++inner_;
   CairoPainter painter(drawn.get(), scale, *this);
   picture.draw(painter);  // which may draw other pictures, and so change what is kept
+  --inner_;
   bytes_ += std::size_t{4} * static_cast<std::size_t>(width) * static_cast<std::size_t>(height);
-  return (pictures_[picture] = std::move(drawn)).get();
+  return (pictures_[key] = std::move(drawn)).get();
 }
 
 PangoLayout* PainterCache::layout(std::string_view text, const Font& font, double scale) {
@@ -65,6 +70,7 @@ PangoLayout* PainterCache::layout(std::string_view text, const Font& font, doubl
 
 CairoPainter::CairoPainter(cairo_surface_t* target, double scale, PainterCache& cache)
     : cairo_(cairo_create(target)), cache_(cache), places_{{{0, 0}, scale}} {
+  cache_.begin(scale);
   cairo_set_line_join(cairo_.get(), CAIRO_LINE_JOIN_ROUND);
 }
 

@@ -6,6 +6,7 @@
 #include <cstddef>
 #include <map>
 #include <memory>
+#include <tuple>
 #include <utility>
 #include <vector>
 
@@ -26,29 +27,33 @@ struct CairoDeleter {
 template <class Object>
 using Owned = std::unique_ptr<Object, CairoDeleter>;
 
-/// What painters keep from one drawing to the next: the fonts, and each picture as drawn at one scale.
+/// What painters keep from one drawing to the next: the fonts, and each picture as drawn at its scale.
 class PainterCache {
  public:
   PainterCache();
 
-  /// The picture at that scale (device pixels to a pixel); what was kept at another scale is dropped.
-  /// It is good until the next call.
+  /// A drawing at that scale begins; what was kept for a drawing at another scale is dropped.
+  void begin(double scale);
+  /// The picture at that scale (device pixels to a pixel). It is good until the next call.
   cairo_surface_t* picture(const PictureId& picture, double scale);
   /// The text laid out at that scale. The layout is good until the next call.
   PangoLayout* layout(std::string_view text, const Font& font, double scale);
 
  private:
+  using Key = std::pair<PictureId, double>;  // a picture and its scale
   struct Before {
-    bool operator()(const PictureId& a, const PictureId& b) const {
-      return std::pair(&a.store(), a.index()) < std::pair(&b.store(), b.index());
+    bool operator()(const Key& a, const Key& b) const {
+      return std::tuple(&a.first.store(), a.first.index(), a.second) <
+             std::tuple(&b.first.store(), b.first.index(), b.second);
     }
   };
 
   Owned<PangoContext> context_;
   Owned<PangoLayout> layout_;
-  std::map<PictureId, Owned<cairo_surface_t>, Before> pictures_;
+  std::map<Key, Owned<cairo_surface_t>, Before> pictures_;
   std::size_t bytes_ = 0;
-  double scale_ = 0;
+  double scale_ = 0;  // of the drawing
+  int inner_ = 0;     // pictures that are being drawn for it
 };
 
 /// Draws on a Cairo surface, with that many device pixels to a pixel of the room.

@@ -62,7 +62,7 @@ void Image::draw(Painter& painter, const Rect& bounds) const {
   painter.enter({bounds.x + (bounds.w - size.width * zoom) / 2,
                  bounds.y + (bounds.h - size.height * zoom) / 2, size.width * zoom, size.height * zoom},
                 zoom);
-  picture.draw(painter);
+  painter.picture(picture, {0, 0}, !Enabled);
   painter.leave();
 }
 
