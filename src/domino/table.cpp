@@ -119,14 +119,14 @@ void Table::layPlayers(int slot, bool left) {
     RIGHT[slot].Visible = false;
     showTurn();
   }
-  calcoloDOMINO();
+  showCounters();
 }
 
 /// "SCELTA COMPUTER".
 void Table::computerTurn() {
   if (const auto laid = game_.computerTurn(level())) showOnLine(laid->slot, laid->left);
   showTurn();
-  calcoloDOMINO();
+  showCounters();
 }
 
 void Table::calcoloDOMINO() {

@@ -1,5 +1,6 @@
 #include "ramino/table.hpp"
 
+#include <initializer_list>
 #include <string>
 
 #include "shell/cursors.hpp"
@@ -48,10 +49,8 @@ void Table::begin() {
 
 /// Deals a hand.
 void Table::avvioRAM() {
-  for (Control* control :
-       {static_cast<Control*>(&Ramfr[kInPlay]), static_cast<Control*>(&Frame19b),
-        static_cast<Control*>(&ramper), static_cast<Control*>(&ramvin), static_cast<Control*>(&rampar),
-        static_cast<Control*>(&avvram), static_cast<Control*>(&ramcomp)}) {
+  for (Control* control : std::initializer_list<Control*>{&Ramfr[kInPlay], &Frame19b, &ramper, &ramvin,
+                                                          &rampar, &avvram, &ramcomp}) {
     control->Visible = false;
   }
   enableButtons(true);
