@@ -13,6 +13,5 @@ int main(int, char**) {
     std::fprintf(stderr, "Tombolario: la finestra non si apre: %s\n", error.what());
     return 1;
   }
-  SDL_Quit();
   return 0;
 }

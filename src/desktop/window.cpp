@@ -52,12 +52,11 @@ Window::Window(Room& room) : form_(room.form()) {
   SDL_SetHint(SDL_HINT_VIDEO_X11_NET_WM_BYPASS_COMPOSITOR, "0");
   SDL_SetHint(SDL_HINT_MOUSE_FOCUS_CLICKTHROUGH, "1");
   if (SDL_Init(SDL_INIT_VIDEO) != 0) throw std::runtime_error(SDL_GetError());
-  window_.reset(SDL_CreateWindow(form_.Caption.get().c_str(), SDL_WINDOWPOS_CENTERED, SDL_WINDOWPOS_CENTERED,
-                                 form_.Width / kTwipsPerPixel, form_.Height / kTwipsPerPixel,
-                                 SDL_WINDOW_RESIZABLE | SDL_WINDOW_ALLOW_HIGHDPI));
+  window_ = SDL_CreateWindow(form_.Caption.get().c_str(), SDL_WINDOWPOS_CENTERED, SDL_WINDOWPOS_CENTERED,
+                             form_.Width / kTwipsPerPixel, form_.Height / kTwipsPerPixel,
+                             SDL_WINDOW_RESIZABLE | SDL_WINDOW_ALLOW_HIGHDPI);
   if (window_ == nullptr) throw std::runtime_error(SDL_GetError());
-  SDL_SetWindowMinimumSize(window_.get(), form_.Width / kTwipsPerPixel / 3,
-                           form_.Height / kTwipsPerPixel / 3);
+  SDL_SetWindowMinimumSize(window_, form_.Width / kTwipsPerPixel / 3, form_.Height / kTwipsPerPixel / 3);
   fit();
 }
 
@@ -98,9 +97,9 @@ void Window::handle(const SDL_Event& event) {
 void Window::fit() {
   int width = 0;
   int height = 0;
-  SDL_GetWindowSizeInPixels(window_.get(), &width, &height);
+  SDL_GetWindowSizeInPixels(window_, &width, &height);
   int mouseWidth = 0;
-  SDL_GetWindowSize(window_.get(), &mouseWidth, nullptr);
+  SDL_GetWindowSize(window_, &mouseWidth, nullptr);
   density_ = mouseWidth > 0 ? static_cast<double>(width) / mouseWidth : 1;
   const double roomWidth = form_.Width / kUnit;
   const double roomHeight = form_.Height / kUnit;
@@ -124,7 +123,7 @@ Point Window::place(int x, int y) const {
 }
 
 void Window::draw() {
-  SDL_Surface* surface = SDL_GetWindowSurface(window_.get());
+  SDL_Surface* surface = SDL_GetWindowSurface(window_);
   if (surface == nullptr) return;
   if (surface->format->format == kCairoFormat) {
     paintOn(*surface);
@@ -135,7 +134,7 @@ void Window::draw() {
     paintOn(*canvas);
     SDL_BlitSurface(canvas.get(), nullptr, surface, nullptr);
   }
-  SDL_UpdateWindowSurface(window_.get());
+  SDL_UpdateWindowSurface(window_);
 }
 
 void Window::paintOn(SDL_Surface& surface) {

@@ -23,7 +23,6 @@ class DesktopHost : public Host {
 };
 
 struct SdlDeleter {
-  void operator()(SDL_Window* window) const { SDL_DestroyWindow(window); }
   void operator()(SDL_Surface* surface) const { SDL_FreeSurface(surface); }
   void operator()(SDL_Cursor* cursor) const { SDL_FreeCursor(cursor); }
 };
@@ -32,6 +31,9 @@ using Sdl = std::unique_ptr<Object, SdlDeleter>;
 
 /// The desktop window: shows the room as one piece, as large as fits, and brings the mouse to it. It
 /// draws only when something has changed.
+///
+/// The window goes with the process, never before: SDL writes to its own window over a second connection,
+/// and what is still on its way when the window is gone is an error of the X server that ends the process.
 class Window {
  public:
   /// Opens the window at its own size. Throws std::runtime_error where there is no display.
@@ -49,7 +51,7 @@ class Window {
   Point place(int x, int y) const;
 
   Form& form_;
-  Sdl<SDL_Window> window_;
+  SDL_Window* window_ = nullptr;  // left to the end of the process
   PainterCache cache_;
   std::map<const PictureStore*, Sdl<SDL_Cursor>> cursors_;  // at the present scale
   PictureId cursor_;
