@@ -9,6 +9,7 @@
 #include "desktop/cairo_painter.hpp"
 #include "room/room.hpp"
 #include "shell/clock_source.hpp"
+#include "shell/data_directory.hpp"
 
 namespace tombolario {
 namespace {
@@ -17,10 +18,11 @@ class BenchHost : public Host {
  public:
   UniformSource& uniform() override { return uniform_; }
   void openAddress(const std::string&) override {}
-  std::filesystem::path dataDirectory() override { return std::filesystem::temp_directory_path(); }
+  DataFiles& dataFiles() override { return dataFiles_; }
 
  private:
   ClockSource uniform_;
+  DataDirectory dataFiles_{std::filesystem::temp_directory_path()};
 };
 
 /// A started room, played to one of its screens.

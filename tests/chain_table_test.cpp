@@ -429,7 +429,7 @@ TEST_F(ChainTable, AGameIsStoredAndTakenUpInALaterRun) {
   click("SALVACAT");
   EXPECT_EQ(stored(), record(plain.score, 4000, plain.level));
 
-  Driver later(nullptr, room.data.path());
+  Driver later(nullptr, room.dataFiles);
   for (const char* command : {"start", "click commpr(4)", "click CARCAT", "click CoNTCAT"}) {
     EXPECT_EQ(later.answer(command), "ok") << command;
   }

@@ -99,7 +99,8 @@ TEST(Captions, BreakAtTheirBlanksWhereTheBoxIsTallEnough) {
 TEST(CairoCamera, WritesTheWindowAndEachPictureAtTheScale) {
   TemporaryDirectory directory;
   CairoCamera camera;
-  Driver room(&camera, directory.path());
+  DataDirectory dataFiles(directory.path());
+  Driver room(&camera, dataFiles);
   const auto sizeOf = [&](const std::string& file) {
     const Owned<cairo_surface_t> png(cairo_image_surface_create_from_png(file.c_str()));
     return std::pair(cairo_image_surface_get_width(png.get()), cairo_image_surface_get_height(png.get()));

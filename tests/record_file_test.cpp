@@ -15,7 +15,8 @@ class RecordFileTest : public testing::Test {
  protected:
   TemporaryDirectory directory;
   std::filesystem::path path = directory.path() / "some.dat";
-  RecordFile file{path};
+  DataDirectory files{directory.path()};
+  RecordFile file{files, "some.dat"};
 };
 
 TEST_F(RecordFileTest, ReadingAMissingFileLeavesAnEmptyOne) {
@@ -71,7 +72,7 @@ TEST_F(RecordFileTest, WhateverStandsInTheWayIsLeftAsItIs) {
   EXPECT_FALSE(file.write({5}));
   EXPECT_TRUE(std::filesystem::is_symlink(path));
 
-  const RecordFile lost(directory.path() / "no" / "such" / "place.dat");
+  const RecordFile lost(files, "no/such/place.dat");
   EXPECT_EQ(lost.read(1), std::nullopt);
   EXPECT_FALSE(lost.write({5}));
 }
@@ -105,7 +106,7 @@ TEST_F(RecordFileTest, WithoutTheRightToWriteAFileIsReadAndADirectoryKeptAsItIs)
     const OrdinaryUser user;
     EXPECT_EQ(file.read(1), 99);
     EXPECT_FALSE(file.write({5}));
-    const RecordFile missing(directory.path() / "missing.dat");
+    const RecordFile missing(files, "missing.dat");
     EXPECT_EQ(missing.read(1), std::nullopt);
     EXPECT_FALSE(missing.write({5}));
   }

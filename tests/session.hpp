@@ -9,6 +9,7 @@
 #include <string_view>
 
 #include "driver/driver.hpp"
+#include "shell/data_directory.hpp"
 
 namespace tombolario {
 
@@ -85,7 +86,8 @@ class Session {
   }
 
   TemporaryDirectory data;
-  Driver driver{nullptr, data.path()};
+  DataDirectory dataFiles{data.path()};
+  Driver driver{nullptr, dataFiles};
 };
 
 }  // namespace tombolario

@@ -206,6 +206,6 @@ void Table::showLinks() {
   Lok.Visible = links == kFullChain;
 }
 
-RecordFile Table::file() { return RecordFile(host_.dataDirectory() / "CATENA.dat"); }
+RecordFile Table::file() { return {host_.dataFiles(), "CATENA.dat"}; }
 
 }  // namespace tombolario::chain

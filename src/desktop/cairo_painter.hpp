@@ -3,15 +3,12 @@
 #include <cairo.h>
 #include <pango/pangocairo.h>
 
-#include <cstddef>
-#include <map>
 #include <memory>
-#include <tuple>
-#include <utility>
-#include <vector>
 
 #include "shell/painter.hpp"
 #include "shell/picture.hpp"
+#include "shell/picture_cache.hpp"
+#include "shell/pixel_grid.hpp"
 
 namespace tombolario {
 
@@ -32,34 +29,23 @@ class PainterCache {
  public:
   PainterCache();
 
-  /// A drawing at that scale begins; what was kept for a drawing at another scale is dropped.
-  void begin(double scale);
-  /// The picture at that scale (device pixels to a pixel). It is good until the next call.
-  cairo_surface_t* picture(const PictureId& picture, double scale);
   /// The text laid out at that scale. The layout is good until the next call.
   PangoLayout* layout(std::string_view text, const Font& font, double scale);
 
- private:
-  using Key = std::pair<PictureId, double>;  // a picture and its scale
-  struct Before {
-    bool operator()(const Key& a, const Key& b) const {
-      return std::tuple(&a.first.store(), a.first.index(), a.second) <
-             std::tuple(&b.first.store(), b.first.index(), b.second);
-    }
-  };
+  PictureCache<Owned<cairo_surface_t>> pictures;
 
+ private:
   Owned<PangoContext> context_;
   Owned<PangoLayout> layout_;
-  std::map<Key, Owned<cairo_surface_t>, Before> pictures_;
-  std::size_t bytes_ = 0;
-  double scale_ = 0;  // of the drawing
-  int inner_ = 0;     // pictures that are being drawn for it
 };
 
 /// Draws on a Cairo surface, with that many device pixels to a pixel of the room.
 class CairoPainter : public Painter {
  public:
   CairoPainter(cairo_surface_t* target, double scale, PainterCache& cache);
+
+  /// The picture at that scale, from the cache. It is good until the next call.
+  static cairo_surface_t* drawn(const PictureId& picture, double scale, PainterCache& cache);
 
   void fillRect(const Rect& rect, Rgb colour) override;
   void outlineRect(const Rect& rect, Rgb colour, double width) override;
@@ -75,26 +61,13 @@ class CairoPainter : public Painter {
   void leave() override;
 
  private:
-  /// A rectangle in whole device pixels.
-  struct Area {
-    double left, top, right, bottom;
-  };
-  Area area(const Rect& rect) const;
-  Vec device(Vec point) const;
-  void fill(const Area& area);
+  void fill(const PixelGrid::Area& area);
   void ink(Rgb colour);
   void trace(std::span<const Vec> points);
 
-  /// A place that was entered. Origins are whole device pixels: what is drawn inside lies alike everywhere.
-  struct Place {
-    Vec origin;
-    double scale;
-  };
-  double scale() const { return places_.back().scale; }
-
   Owned<cairo_t> cairo_;
   PainterCache& cache_;
-  std::vector<Place> places_;
+  PixelGrid grid_;
 };
 
 }  // namespace tombolario

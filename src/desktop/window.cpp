@@ -1,14 +1,12 @@
 #include "desktop/window.hpp"
 
 #include <algorithm>
-#include <cmath>
 #include <stdexcept>
 
 namespace tombolario {
 
 namespace {
 
-constexpr double kUnit = kTwipsPerPixel;
 constexpr Uint32 kCairoFormat = SDL_PIXELFORMAT_RGB888;  // what Cairo calls RGB24
 
 MouseButton buttonOf(const SDL_MouseButtonEvent& event) {
@@ -26,16 +24,13 @@ bool isMouseButton(const SDL_MouseButtonEvent& event) {
 
 /// A cursor drawn at that scale, its hot spot with it.
 Sdl<SDL_Cursor> makeCursor(const PictureId& picture, double scale, PainterCache& cache) {
-  const Size size = picture.size();
-  const int width = std::max(1, static_cast<int>(std::lround(size.width * scale)));
-  const int height = std::max(1, static_cast<int>(std::lround(size.height * scale)));
-  const Owned<cairo_surface_t> drawn(cairo_image_surface_create(CAIRO_FORMAT_ARGB32, width, height));
-  CairoPainter painter(drawn.get(), scale, cache);
-  picture.draw(painter);
-  cairo_surface_flush(drawn.get());
-  const Sdl<SDL_Surface> surface(SDL_CreateRGBSurfaceWithFormatFrom(
-      cairo_image_surface_get_data(drawn.get()), width, height, 32,
-      cairo_image_surface_get_stride(drawn.get()), SDL_PIXELFORMAT_ARGB8888));
+  cairo_surface_t* drawn = CairoPainter::drawn(picture, scale, cache);
+  cairo_surface_flush(drawn);
+  const int width = cairo_image_surface_get_width(drawn);
+  const int height = cairo_image_surface_get_height(drawn);
+  const Sdl<SDL_Surface> surface(
+      SDL_CreateRGBSurfaceWithFormatFrom(cairo_image_surface_get_data(drawn), width, height, 32,
+                                         cairo_image_surface_get_stride(drawn), SDL_PIXELFORMAT_ARGB8888));
   const Vec hot = picture.store().hotSpot;
   const auto pixel = [scale](double at, int end) {
     return std::clamp(static_cast<int>((at + 0.5) * scale), 0, end - 1);
@@ -93,7 +88,6 @@ void Window::handle(const SDL_Event& event) {
   }
 }
 
-/// Finds the largest scale at which the whole room fits the window, and puts it in the middle.
 void Window::fit() {
   int width = 0;
   int height = 0;
@@ -101,26 +95,18 @@ void Window::fit() {
   int mouseWidth = 0;
   SDL_GetWindowSize(window_, &mouseWidth, nullptr);
   density_ = mouseWidth > 0 ? static_cast<double>(width) / mouseWidth : 1;
-  const double roomWidth = form_.Width / kUnit;
-  const double roomHeight = form_.Height / kUnit;
-  const double scale = std::max(0.05, std::min(width / roomWidth, height / roomHeight));
-  if (scale != std::exchange(scale_, scale)) {
+  const double before = view_.scale;
+  view_ = Viewport::fit(form_, width, height);
+  if (view_.scale != before) {
     SDL_SetCursor(SDL_GetDefaultCursor());
     cursor_ = {};
     cursors_.clear();
   }
-  marginX_ = static_cast<int>((width - roomWidth * scale) / 2);
-  marginY_ = static_cast<int>((height - roomHeight * scale) / 2);
   form_.redraw();
 }
 
 /// The place of the mouse in the room.
-Point Window::place(int x, int y) const {
-  const auto twips = [&](int at, int margin) {
-    return static_cast<int>(std::floor((at * density_ - margin) / scale_ * kUnit));
-  };
-  return {twips(x, marginX_), twips(y, marginY_)};
-}
+Point Window::place(int x, int y) const { return view_.place(x * density_, y * density_); }
 
 void Window::draw() {
   SDL_Surface* surface = SDL_GetWindowSurface(window_);
@@ -140,12 +126,10 @@ void Window::draw() {
 void Window::paintOn(SDL_Surface& surface) {
   const Owned<cairo_surface_t> canvas(cairo_image_surface_create_for_data(
       static_cast<unsigned char*>(surface.pixels), CAIRO_FORMAT_RGB24, surface.w, surface.h, surface.pitch));
-  if (marginX_ > 0 || marginY_ > 0) SDL_FillRect(&surface, nullptr, 0);
-  cairo_surface_set_device_offset(canvas.get(), marginX_, marginY_);
-  CairoPainter painter(canvas.get(), scale_, cache_);
-  painter.enter({0, 0, form_.Width / kUnit, form_.Height / kUnit});
+  if (view_.marginX > 0 || view_.marginY > 0) SDL_FillRect(&surface, nullptr, 0);
+  cairo_surface_set_device_offset(canvas.get(), view_.marginX, view_.marginY);
+  CairoPainter painter(canvas.get(), view_.scale, cache_);
   form_.repaint(painter);
-  painter.leave();
   cairo_surface_flush(canvas.get());
 }
 
@@ -157,7 +141,7 @@ void Window::showCursor() {
     return;
   }
   Sdl<SDL_Cursor>& cursor = cursors_[&wanted.store()];
-  if (cursor == nullptr) cursor = makeCursor(wanted, scale_ / density_, cache_);
+  if (cursor == nullptr) cursor = makeCursor(wanted, view_.scale / density_, cache_);
   SDL_SetCursor(cursor != nullptr ? cursor.get() : SDL_GetDefaultCursor());
 }
 

@@ -8,6 +8,8 @@
 #include "desktop/cairo_painter.hpp"
 #include "room/room.hpp"
 #include "shell/clock_source.hpp"
+#include "shell/data_directory.hpp"
+#include "shell/viewport.hpp"
 
 namespace tombolario {
 
@@ -16,10 +18,11 @@ class DesktopHost : public Host {
  public:
   UniformSource& uniform() override { return uniform_; }
   void openAddress(const std::string& address) override { SDL_OpenURL(address.c_str()); }
-  std::filesystem::path dataDirectory() override { return "."; }
+  DataFiles& dataFiles() override { return dataFiles_; }
 
  private:
   ClockSource uniform_;
+  DataDirectory dataFiles_{"."};
 };
 
 struct SdlDeleter {
@@ -55,10 +58,8 @@ class Window {
   PainterCache cache_;
   std::map<const PictureStore*, Sdl<SDL_Cursor>> cursors_;  // at the present scale
   PictureId cursor_;
-  double scale_ = 1;    // device pixels to a pixel of the room
+  Viewport view_;
   double density_ = 1;  // device pixels to a unit of the mouse
-  int marginX_ = 0;     // device pixels left of and above the room
-  int marginY_ = 0;
   bool open_ = true;
 };
 

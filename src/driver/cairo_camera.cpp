@@ -1,8 +1,5 @@
 #include "driver/cairo_camera.hpp"
 
-#include <algorithm>
-#include <cmath>
-
 namespace tombolario {
 
 namespace {
@@ -15,7 +12,7 @@ bool save(cairo_surface_t* surface, const std::string& file) {
 
 bool CairoCamera::shoot(Form& form, const std::string& file, double scale) {
   const auto pixels = [scale](int twips) {
-    return std::max(1, static_cast<int>(std::lround(static_cast<double>(twips) / kTwipsPerPixel * scale)));
+    return devicePixels(static_cast<double>(twips) / kTwipsPerPixel, scale);
   };
   const Owned<cairo_surface_t> surface(
       cairo_image_surface_create(CAIRO_FORMAT_RGB24, pixels(form.Width), pixels(form.Height)));
@@ -25,7 +22,7 @@ bool CairoCamera::shoot(Form& form, const std::string& file, double scale) {
 }
 
 bool CairoCamera::shoot(const PictureId& picture, const std::string& file, double scale) {
-  return save(cache_.picture(picture, scale), file);
+  return save(CairoPainter::drawn(picture, scale, cache_), file);
 }
 
 }  // namespace tombolario

@@ -79,8 +79,7 @@ double ScriptedSource::next() {
   return number;
 }
 
-Driver::Driver(Camera* camera, std::filesystem::path dataDirectory)
-    : host_(std::move(dataDirectory)), room_(host_), camera_(camera) {}
+Driver::Driver(Camera* camera, DataFiles& dataFiles) : host_(dataFiles), room_(host_), camera_(camera) {}
 
 std::string Driver::answer(std::string_view line) {
   try {

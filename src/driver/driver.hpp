@@ -2,7 +2,6 @@
 
 #include <cstdint>
 #include <deque>
-#include <filesystem>
 #include <random>
 #include <string>
 #include <string_view>
@@ -34,17 +33,17 @@ class ScriptedSource : public UniformSource {
 /// The surroundings of a room without a window: it keeps the addresses that are handed to it.
 class ScriptedHost : public Host {
  public:
-  explicit ScriptedHost(std::filesystem::path dataDirectory) : dataDirectory_(std::move(dataDirectory)) {}
+  explicit ScriptedHost(DataFiles& dataFiles) : dataFiles_(dataFiles) {}
 
   ScriptedSource& uniform() override { return uniform_; }
   void openAddress(const std::string& address) override { addresses.push_back(address); }
-  std::filesystem::path dataDirectory() override { return dataDirectory_; }
+  DataFiles& dataFiles() override { return dataFiles_; }
 
   std::vector<std::string> addresses;
 
  private:
   ScriptedSource uniform_;
-  std::filesystem::path dataDirectory_;
+  DataFiles& dataFiles_;
 };
 
 /// The room by a line protocol: each command, one line, has one answer. A command that is not understood
@@ -52,7 +51,7 @@ class ScriptedHost : public Host {
 class Driver {
  public:
   /// Without a camera the commands that write pictures answer an error.
-  explicit Driver(Camera* camera, std::filesystem::path dataDirectory = ".");
+  Driver(Camera* camera, DataFiles& dataFiles);
 
   /// The answer to a command: one line, or several of which the last is "."; no line break at the end.
   std::string answer(std::string_view line);

@@ -2,16 +2,18 @@
 #include <string>
 
 #include "driver/driver.hpp"
+#include "shell/data_directory.hpp"
 #ifdef TOMBOLARIO_DRAWS
 #include "driver/cairo_camera.hpp"
 #endif
 
 int main() {
+  tombolario::DataDirectory dataFiles(".");
 #ifdef TOMBOLARIO_DRAWS
   tombolario::CairoCamera camera;
-  tombolario::Driver driver(&camera);
+  tombolario::Driver driver(&camera, dataFiles);
 #else
-  tombolario::Driver driver(nullptr);
+  tombolario::Driver driver(nullptr, dataFiles);
 #endif
   for (std::string line; !driver.ended() && std::getline(std::cin, line);) {
     std::cout << driver.answer(line) << std::endl;

@@ -72,7 +72,10 @@ PictureId Form::cursor() {
 }
 
 void Form::repaint(Painter& painter) {
+  const double unit = kTwipsPerPixel;
+  painter.enter({0, 0, Width / unit, Height / unit});
   paint(painter);
+  painter.leave();
   needsDrawing_ = false;
 }
 

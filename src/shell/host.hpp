@@ -1,7 +1,8 @@
 #pragma once
 
-#include <filesystem>
 #include <string>
+
+#include "shell/data_files.hpp"
 
 namespace tombolario {
 
@@ -22,8 +23,7 @@ class Host {
   virtual UniformSource& uniform() = 0;
   /// Hands a web address or a "mailto:" address to the desktop; whether it could open it does not matter.
   virtual void openAddress(const std::string& address) = 0;
-  /// Where the data files are.
-  virtual std::filesystem::path dataDirectory() = 0;
+  virtual DataFiles& dataFiles() = 0;
 };
 
 }  // namespace tombolario

@@ -179,6 +179,6 @@ void Table::hideRows() {
   for (PictureBox& row : segn) row.Visible = false;
 }
 
-RecordFile Table::file() { return RecordFile(host_.dataDirectory() / "videopoker.dat"); }
+RecordFile Table::file() { return {host_.dataFiles(), "videopoker.dat"}; }
 
 }  // namespace tombolario::videopoker
