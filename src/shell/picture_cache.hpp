@@ -10,13 +10,16 @@
 
 namespace tombolario {
 
+/// From one drawing to the next no more is kept than this many bytes of drawn pictures.
+inline constexpr std::size_t kMostPictureBytes = std::size_t{32} << 20;
+
 /// Each picture as a painter has drawn it at its scale, kept from one drawing of the room to the next.
 template <class Drawn>
 class PictureCache {
  public:
   /// A drawing at that scale begins; what was kept for a drawing at another scale is dropped.
   void begin(double scale) {
-    if (inner_ > 0 || (scale == scale_ && bytes_ <= kMostBytes)) return;
+    if (inner_ > 0 || (scale == scale_ && bytes_ <= kMostPictureBytes)) return;
     pictures_.clear();
     bytes_ = 0;
     scale_ = scale;
@@ -39,8 +42,6 @@ class PictureCache {
   }
 
  private:
-  static constexpr std::size_t kMostBytes = std::size_t{32} << 20;
-
   using Key = std::pair<PictureId, double>;  // a picture and its scale
   struct Before {
     bool operator()(const Key& a, const Key& b) const {

@@ -1,0 +1,27 @@
+#pragma once
+
+#include "shell/clock_source.hpp"
+#include "shell/host.hpp"
+
+namespace tombolario {
+
+/// Data files in the browser's own storage. Where that is refused or full, a call fails and changes nothing.
+class BrowserFiles : public DataFiles {
+ public:
+  std::optional<Bytes> read(const std::string& name, std::size_t count) override;
+  bool write(const std::string& name, std::span<const unsigned char> bytes) override;
+};
+
+/// The surroundings of the room in a browser.
+class BrowserHost : public Host {
+ public:
+  UniformSource& uniform() override { return uniform_; }
+  void openAddress(const std::string& address) override;
+  DataFiles& dataFiles() override { return dataFiles_; }
+
+ private:
+  ClockSource uniform_;
+  BrowserFiles dataFiles_;
+};
+
+}  // namespace tombolario

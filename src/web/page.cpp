@@ -1,0 +1,80 @@
+#include "web/page.hpp"
+
+#include <emscripten.h>
+
+#include <algorithm>
+#include <utility>
+
+namespace tombolario {
+
+namespace {
+
+constexpr int kPageCanvas = 0;
+/// Browsers show no cursor that is larger, in units of the style sheets.
+constexpr double kLargestCursor = 128;
+
+extern "C" {
+/// The cursor has that many pixels to a unit of the style sheets; its hot spot is in such units.
+void cursor_show(int canvas, double density, double hotX, double hotY);
+void cursor_reset();
+}
+
+}  // namespace
+
+void Page::fit(int width, int height, double density) {
+  view_ = Viewport::fit(form_, width, height);
+  density_ = density;
+  cursor_ = {};
+  form_.redraw();
+}
+
+void Page::pointer(double x, double y, unsigned buttons) {
+  form_.mouseMove(view_.place(x, y));
+  for (const MouseButton button : {MouseButton::Left, MouseButton::Right, MouseButton::Middle}) {
+    const unsigned bit = 1U << static_cast<unsigned>(button);
+    if ((buttons & ~buttons_ & bit) != 0) form_.mouseDown(button);
+    if ((buttons_ & ~buttons & bit) != 0) form_.mouseUp(button);
+  }
+  buttons_ = buttons;
+  showCursor();
+}
+
+void Page::draw() {
+  CanvasPainter painter(kPageCanvas, {double(view_.marginX), double(view_.marginY)}, view_.scale, cache_);
+  form_.repaint(painter);
+}
+
+void Page::forget() {
+  cache_ = {};
+  form_.redraw();
+}
+
+void Page::showCursor() {
+  const PictureId wanted = form_.cursor();
+  if (wanted == std::exchange(cursor_, wanted)) return;
+  if (!wanted) {
+    cursor_reset();
+    return;
+  }
+  const Size size = wanted.size();
+  const double largest = kLargestCursor * density_ / std::max(size.width, size.height);
+  const double scale = std::min(view_.scale, largest);
+  const Vec hot = wanted.store().hotSpot;
+  cursor_show(CanvasPainter::drawn(wanted, scale, cache_).plain.handle(), density_,
+              (hot.x + 0.5) * scale / density_, (hot.y + 0.5) * scale / density_);
+}
+
+// What the script of the page calls.
+extern "C" {
+EMSCRIPTEN_KEEPALIVE void page_fit(Page* page, int width, int height, double density) {
+  page->fit(width, height, density);
+}
+EMSCRIPTEN_KEEPALIVE void page_pointer(Page* page, double x, double y, unsigned buttons) {
+  page->pointer(x, y, buttons);
+}
+EMSCRIPTEN_KEEPALIVE bool page_needs_drawing(const Page* page) { return page->needsDrawing(); }
+EMSCRIPTEN_KEEPALIVE void page_draw(Page* page) { page->draw(); }
+EMSCRIPTEN_KEEPALIVE void page_forget(Page* page) { page->forget(); }
+}
+
+}  // namespace tombolario

@@ -1,0 +1,35 @@
+#pragma once
+
+#include "shell/form.hpp"
+#include "shell/viewport.hpp"
+#include "web/canvas_painter.hpp"
+
+namespace tombolario {
+
+/// The page: shows the room as one piece on the page's canvas, as large as fits, and brings the pointer to
+/// it. Lengths are device pixels of the canvas.
+class Page {
+ public:
+  explicit Page(Form& form) : form_(form) {}
+
+  /// The canvas is empty and has that size now, and that many device pixels to a unit of the style sheets.
+  void fit(int width, int height, double density);
+  /// The pointer is there, with the buttons down that have their bits set: 1 left, 2 right, 4 middle.
+  void pointer(double x, double y, unsigned buttons);
+  bool needsDrawing() const { return form_.needsDrawing(); }
+  void draw();
+  /// What was drawn is lost, the pictures that are kept with it.
+  void forget();
+
+ private:
+  void showCursor();
+
+  Form& form_;
+  CanvasCache cache_;
+  Viewport view_;
+  double density_ = 1;
+  unsigned buttons_ = 0;
+  PictureId cursor_;
+};
+
+}  // namespace tombolario

@@ -1,0 +1,67 @@
+// Opens the room on the page's canvas and brings the pointer to it.
+import openModule from './tombolario.js';
+
+const canvas = document.querySelector('canvas');
+
+function play(room) {
+  const page = room._page_open();
+
+  let frame = 0;
+  function drawSoon() {
+    if (frame || !room._page_needs_drawing(page)) return;
+    frame = requestAnimationFrame(() => {
+      frame = 0;
+      room._page_draw(page);
+    });
+  }
+
+  function fit(width, height) {
+    canvas.width = width;
+    canvas.height = height;
+    room._page_fit(page, width, height, width / canvas.clientWidth);
+    room._page_draw(page);
+  }
+
+  // One pointer at a time: the one that holds a button down, then whichever moves.
+  let holder = null;
+  function point(event) {
+    if (!event.isPrimary || (holder !== null && event.pointerId !== holder)) return;
+    holder = event.buttons ? event.pointerId : null;
+    if (event.type === 'pointerdown') canvas.setPointerCapture(event.pointerId);
+    const density = canvas.width / canvas.clientWidth;
+    room._page_pointer(page, event.clientX * density, event.clientY * density, event.buttons & 7);
+    drawSoon();
+  }
+
+  // A press that the browser takes away ends outside the room, and so clicks nothing.
+  function cancel(event) {
+    if (event.pointerId !== holder) return;
+    holder = null;
+    room._page_pointer(page, -1, -1, 0);
+    drawSoon();
+  }
+
+  for (const type of ['pointermove', 'pointerdown', 'pointerup']) canvas.addEventListener(type, point);
+  canvas.addEventListener('pointercancel', cancel);
+  canvas.addEventListener('contextmenu', (event) => event.preventDefault());
+  canvas.addEventListener('contextrestored', () => {
+    room._page_forget(page);
+    drawSoon();
+  });
+
+  fit(Math.round(canvas.clientWidth * devicePixelRatio), Math.round(canvas.clientHeight * devicePixelRatio));
+  new ResizeObserver(([entry]) => {
+    const size = entry.devicePixelContentBoxSize?.[0];
+    const width = size?.inlineSize ?? Math.round(entry.contentRect.width * devicePixelRatio);
+    const height = size?.blockSize ?? Math.round(entry.contentRect.height * devicePixelRatio);
+    if (width !== canvas.width || height !== canvas.height) fit(width, height);
+  }).observe(canvas, {box: 'device-pixel-content-box'});
+}
+
+try {
+  play(await openModule({canvas}));
+  navigator.serviceWorker?.register('offline.js').catch(() => {});
+} catch (error) {
+  document.body.textContent = `Tombolario: la pagina non si apre: ${error.message}`;
+  throw error;
+}

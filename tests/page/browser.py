@@ -1,0 +1,123 @@
+"""A page on a server of its own, and a headless browser that shows it."""
+
+import functools
+import http.server
+import json
+import threading
+import time
+
+from selenium import webdriver
+from selenium.webdriver.chrome.service import Service
+
+PATIENCE = 10  # seconds
+BITS = {'left': 1, 'right': 2, 'middle': 4}
+
+
+class Quiet(http.server.SimpleHTTPRequestHandler):
+    def log_message(self, *_):
+        pass
+
+
+class Site:
+    """A page on a port of its own."""
+
+    def __init__(self, directory):
+        handler = functools.partial(Quiet, directory=directory)
+        self.server = http.server.ThreadingHTTPServer(('127.0.0.1', 0), handler)
+        self.address = f'http://127.0.0.1:{self.server.server_port}/'
+        threading.Thread(target=self.server.serve_forever, daemon=True).start()
+
+    def close(self):
+        self.server.shutdown()
+        self.server.server_close()
+
+
+class Browser(webdriver.Chrome):
+    def __init__(self, density=1):
+        """With that many device pixels to a CSS pixel."""
+        options = webdriver.ChromeOptions()
+        options.binary_location = '/usr/bin/chromium'
+        for argument in ('headless=new', 'no-sandbox', 'disable-gpu', 'disable-dev-shm-usage', 'disable-quic',
+                         'no-first-run', 'disable-background-networking', 'disable-component-update',
+                         'disable-sync', f'force-device-scale-factor={density}'):
+            options.add_argument('--' + argument)
+        options.set_capability('goog:loggingPrefs', {'browser': 'ALL', 'performance': 'ALL'})
+        super().__init__(options=options, service=Service('/usr/bin/chromedriver'))
+        self.buttons = 0
+        self.at = (0, 0)
+        self.resize(792, 573)
+
+    def resize(self, width, height):
+        """To that size in CSS pixels."""
+        self.execute_cdp_cmd('Emulation.setDeviceMetricsOverride', {
+            'width': width, 'height': height, 'deviceScaleFactor': 0, 'mobile': False})
+
+    def open(self, site):
+        self.get(site.address)
+        self.wait("return performance.getEntriesByName('first-contentful-paint').length")
+
+    def wait(self, script):
+        end = time.monotonic() + PATIENCE
+        while not (value := self.execute_script(script)):
+            if time.monotonic() > end:
+                raise AssertionError(f'not so after {PATIENCE} seconds: {script}')
+            time.sleep(0.02)
+        return value
+
+    def answer(self, line):
+        return self.execute_script('return room.answer(arguments[0])', line)
+
+    def _mouse(self, kind, button='none'):
+        x, y = self.at
+        self.execute_cdp_cmd('Input.dispatchMouseEvent', {
+            'type': kind, 'x': x, 'y': y, 'button': button, 'buttons': self.buttons, 'clickCount': 1})
+
+    def move(self, x, y):
+        """To a place in CSS pixels."""
+        self.at = (x, y)
+        self._mouse('mouseMoved')
+
+    def down(self, button='left'):
+        self.buttons |= BITS[button]
+        self._mouse('mousePressed', button)
+
+    def up(self, button='left'):
+        self.buttons &= ~BITS[button]
+        self._mouse('mouseReleased', button)
+
+    def where(self, name):
+        """The middle of a control in CSS pixels, at the present size of the window."""
+        x, y = self.execute_script('return room.centre(arguments[0])', name)
+        width, height = self.execute_script('return [innerWidth, innerHeight]')
+        scale = min(width / 792, height / 573)
+        return (width - 792 * scale) / 2 + x / 15 * scale, (height - 573 * scale) / 2 + y / 15 * scale
+
+    def press(self, x, y):
+        self.move(x, y)
+        self.down()
+        self.up()
+
+    def tap(self, x, y, end='touchEnd'):
+        touch = functools.partial(self.execute_cdp_cmd, 'Input.dispatchTouchEvent')
+        touch({'type': 'touchStart', 'touchPoints': [{'x': x, 'y': y}]})
+        touch({'type': end, 'touchPoints': []})
+
+    def pixel(self, x, y):
+        """The colour of a pixel of the canvas, as RRGGBB, once what has changed is drawn."""
+        return self.execute_async_script('''
+            const [x, y, done] = arguments;
+            const canvas = document.querySelector('canvas');
+            requestAnimationFrame(() => requestAnimationFrame(() => {
+              const [r, g, b, a] = canvas.getContext('2d').getImageData(x, y, 1, 1).data;
+              done(a ? (r * 65536 + g * 256 + b).toString(16).padStart(6, '0') : 'none');
+            }));''', x, y)
+
+    def requests(self):
+        """The addresses that anything was asked of since the last call."""
+        events = [json.loads(entry['message'])['message'] for entry in self.get_log('performance')]
+        addresses = [event['params']['request']['url'] for event in events
+                     if event['method'] == 'Network.requestWillBeSent']
+        return [address for address in addresses if not address.startswith('data:')]
+
+    def complaints(self):
+        return [entry['message'] for entry in self.get_log('browser') if entry['level'] == 'SEVERE']

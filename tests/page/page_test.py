@@ -1,0 +1,318 @@
+#!/usr/bin/python3
+"""The room as a page, in a headless browser, beside the driver: page_test.py PAGE SCRIPTED_PAGE DRIVER
+
+SCRIPTED_PAGE takes the driver's commands as well, so that what its controls hold can be compared with what
+those of the driver hold, control by control."""
+
+import base64
+import hashlib
+import pathlib
+import random
+import subprocess
+import sys
+import tempfile
+import unittest
+
+from browser import BITS, PATIENCE, Browser, Site
+
+PAGE, SCRIPTED, DRIVER = (pathlib.Path(argument).resolve() for argument in sys.argv[1:])
+SCREENS = {'Frameprincipale', 'Frame2', 'Frame2BIS', 'Frame3', 'Frame3BIS', 'FRAME5', 'Frame5BIS', 'Frame4',
+           'Frame4BIS', 'frame6', 'Frame6bis', 'Frame7'}
+# Of each game, in the order of the menu: the button that starts it. Then what leads back to the menu.
+ENTRIES = ('Command44', 'Command8', 'giocodom', 'INICAT', 'GIOCORAM', 'Commah(1)')
+EXITS = ('Command55', 'menupok', 'Command5', 'MENUVP', 'FINEDOM', 'MENUDOM', 'FINECA', 'menucat', 'ramesc',
+         'MENURAM', 'Command17')
+
+
+class Native:
+    """The driver as a program, with data files of its own."""
+
+    def __init__(self):
+        self.data = tempfile.TemporaryDirectory()
+        self.open()
+
+    def open(self):
+        self.process = subprocess.Popen([DRIVER], cwd=self.data.name, text=True, stdin=subprocess.PIPE,
+                                        stdout=subprocess.PIPE)
+        self.answer('start')
+
+    def answer(self, line):
+        print(line, file=self.process.stdin, flush=True)
+        lines = [self.process.stdout.readline().rstrip('\n')]
+        while line == 'dump' and lines[-1] != '.':
+            lines.append(self.process.stdout.readline().rstrip('\n'))
+        return '\n'.join(lines)
+
+    def end(self):
+        self.process.stdin.close()
+        self.process.stdout.close()
+        self.process.wait(PATIENCE)
+
+    def reopen(self):
+        self.end()
+        self.open()
+
+    def close(self):
+        self.end()
+        self.data.cleanup()
+
+    def files(self):
+        return {file.name: file.read_bytes() for file in pathlib.Path(self.data.name).iterdir()}
+
+
+def play_at_random(native):
+    """Plays each game with the driver: the commands, a digest of all that is seen after each, the screens."""
+    chance = random.Random(11)
+    lines, digests, screens = [], [], set()
+
+    def do(line):
+        answer = native.answer(line)
+        dump = native.answer('dump')
+        lines.append(line)
+        digests.append(hashlib.sha256((answer + dump).encode()).hexdigest())
+        screens.add(native.answer('screen'))
+        return [control.split(' ')[0] for control in dump.split('\n')[:-1]]
+
+    for game, entry in enumerate(ENTRIES, start=1):
+        for button in BITS:
+            do('up ' + button)
+        while native.answer('screen') != 'Frameprincipale':
+            for exit_button in EXITS:
+                do('click ' + exit_button)
+        do(f'click commpr({game})')
+        on_view = do('click ' + entry)
+        for _ in range(600):
+            name = chance.choice(on_view)
+            on_view = do(chance.choices(
+                [f'click {name}', f'over {name}', f'at {chance.randrange(11880)} {chance.randrange(8595)}',
+                 'down ' + chance.choice(list(BITS)), 'up ' + chance.choice(list(BITS)),
+                 f'scroll {name} {chance.randrange(30)}', f'u {chance.random()}'],
+                weights=[70, 10, 5, 4, 6, 4, 1])[0])
+    return lines, digests, screens
+
+
+class PageCase(unittest.TestCase):
+    def setUp(self):
+        self.start_browser()
+
+    def start_browser(self, density=1):
+        self.browser = Browser(density)
+        self.addCleanup(self.browser.quit)
+
+    def serve(self, directory):
+        self.site = Site(directory)
+        self.addCleanup(self.site.close)
+        self.browser.open(self.site)
+
+    def tearDown(self):
+        self.assertEqual(self.browser.complaints(), [])
+
+
+class ShippedPage(PageCase):
+    """The page as players get it: it can be seen and clicked, and nothing else."""
+
+    # Places clear of captions and pictures, in pixels of the room.
+    VIDEOPOKER, NEW_GAME, CHANGE_CARDS = (282, 156), (266, 80), (122, 412)
+    GROUND, EMAIL, SITE = (200, 367), (300, 456), (290, 480)
+
+    def setUp(self):
+        super().setUp()
+        self.serve(PAGE)
+
+    def test_a_game_by_the_mouse_and_no_request_but_the_page_itself(self):
+        self.assertEqual(self.browser.pixel(*self.VIDEOPOKER), '00ffff')
+        self.browser.move(*self.VIDEOPOKER)
+        self.assertEqual(self.browser.pixel(*self.VIDEOPOKER), '0000ff')
+        self.browser.press(*self.VIDEOPOKER)
+        self.assertEqual(self.browser.pixel(*self.NEW_GAME), 'ffff00')
+        self.browser.press(*self.NEW_GAME)
+        self.assertEqual(self.browser.pixel(*self.CHANGE_CARDS), 'ffff80')
+        requests = self.browser.requests()
+        self.assertIn(self.site.address + 'tombolario.wasm', requests)
+        self.assertEqual([address for address in requests if not address.startswith(self.site.address)], [])
+        self.assertEqual(self.browser.execute_script('return typeof room'), 'undefined')
+
+    def test_only_a_change_draws(self):
+        self.browser.execute_script('''
+            const fillRect = CanvasRenderingContext2D.prototype.fillRect;
+            window.drawn = 0;
+            CanvasRenderingContext2D.prototype.fillRect = function (...all) {
+              ++drawn;
+              fillRect.apply(this, all);
+            };''')
+        self.browser.move(*self.GROUND)
+        self.browser.move(self.GROUND[0] + 5, self.GROUND[1])
+        self.assertEqual(self.browser.pixel(*self.GROUND), 'ffc0c0')
+        self.assertEqual(self.browser.execute_script('return drawn'), 0)
+        self.browser.move(*self.VIDEOPOKER)
+        self.assertEqual(self.browser.pixel(*self.VIDEOPOKER), '0000ff')
+        self.assertGreater(self.browser.execute_script('return drawn'), 0)
+
+    def test_what_the_browser_has_lost_is_drawn_again(self):
+        self.browser.execute_script('''
+            const canvas = document.querySelector('canvas');
+            canvas.getContext('2d').clearRect(0, 0, 1000, 1000);
+            canvas.dispatchEvent(new Event('contextrestored'));''')
+        self.assertEqual(self.browser.pixel(*self.VIDEOPOKER), '00ffff')
+
+    def test_the_links_open_as_links(self):
+        self.browser.execute_script('''
+            window.opened = [];
+            HTMLAnchorElement.prototype.click = function () { opened.push(`${this.href} ${this.target}`); };''')
+        for link in self.EMAIL, self.SITE:
+            self.browser.press(*link)
+        self.assertEqual(self.browser.execute_script('return opened'),
+                         ['mailto:info@tombolario.example ', 'https://www.tombolario.example/ _blank'])
+
+    def test_the_cursor_points_with_its_hot_spot(self):
+        style = 'return document.querySelector("canvas").style.cursor'
+        self.browser.move(*self.EMAIL)
+        image = r'image-set\(url\("data:image/png;base64,[^"]+"\) 1x\)'
+        self.assertRegex(self.browser.execute_script(style), f'^{image} 12 1, pointer$')
+        self.browser.move(*self.GROUND)
+        self.assertEqual(self.browser.execute_script(style), 'default')
+
+    def test_without_a_network_the_page_opens_again(self):
+        self.browser.wait("return caches.keys().then((keys) => keys.length > 0)")
+        self.browser.wait("return navigator.serviceWorker.ready.then(() => true)")
+        self.site.close()
+        self.browser.open(self.site)
+        self.assertEqual(self.browser.pixel(*self.VIDEOPOKER), '00ffff')
+
+
+class ScriptedPage(PageCase):
+    """The page beside the driver: whatever happens, both show the same."""
+
+    def setUp(self):
+        super().setUp()
+        self.native = Native()
+        self.addCleanup(self.native.close)
+        self.serve(SCRIPTED)
+
+    def both(self, line):
+        answer = self.native.answer(line)
+        self.assertEqual(self.browser.answer(line), answer, line)
+        return answer
+
+    def compare(self, step):
+        native, page = self.native.answer('dump').split('\n'), self.browser.answer('dump').split('\n')
+        self.assertEqual([line for line in page if line not in native],
+                         [line for line in native if line not in page], step)
+
+    def click(self, *names):
+        """Clicks with the mouse in the page, and by command in the driver."""
+        for name in names:
+            self.browser.press(*self.browser.where(name))
+            self.assertEqual(self.native.answer('click ' + name), 'ok')
+            self.compare(name)
+
+    def stored(self, name):
+        value = self.browser.execute_script("return localStorage['tombolario/' + arguments[0]]", name)
+        return base64.b64decode(value)
+
+    def compare_files(self):
+        files = self.native.files()
+        self.assertTrue(files)
+        self.assertEqual({name: self.stored(name) for name in files}, files)
+
+    def play_to_the_summary(self):
+        self.both('seed 3')
+        self.click('commpr(2)', 'Command8', 'Command2(1)', 'Command2(3)')
+        for _ in range(9):
+            self.click('Command3', 'Command1')
+        self.assertEqual(self.both('get Command7 Enabled'), '1', 'enough is left to save')
+
+    def test_a_game_is_played_saved_and_taken_up_after_a_reload(self):
+        self.play_to_the_summary()
+        self.click('Command7')
+        self.compare_files()
+        self.browser.open(self.site)
+        self.native.reopen()
+        self.click('commpr(2)', 'Command9')
+        self.assertEqual(self.both('screen'), 'Frame3BIS')
+
+    def test_storage_that_is_full_or_refused_or_damaged_harms_nothing(self):
+        self.play_to_the_summary()
+        self.browser.execute_script(
+            "localStorage['tombolario/videopoker.dat'] = btoa('\\x63\\0, and more');"
+            "Storage.prototype.setItem = () => { throw new DOMException('full', 'QuotaExceededError'); }")
+        self.click('Command7')
+        self.assertEqual(self.stored('videopoker.dat'), b'c\0, and more')
+        for refused in ("localStorage['tombolario/videopoker.dat'] = 'not base64!'",
+                        "Storage.prototype.getItem = () => { throw new DOMException('no', 'SecurityError'); }"):
+            self.browser.open(self.site)
+            self.browser.execute_script(refused)
+            self.browser.press(*self.browser.where('commpr(2)'))
+            self.browser.press(*self.browser.where('Command9'))
+            self.assertEqual(self.browser.answer('screen'), 'Frame3')
+            self.assertEqual(self.browser.answer('get Command9 Enabled'), '0')
+            self.assertEqual(self.browser.execute_script("return localStorage['tombolario/videopoker.dat']"),
+                             'not base64!')
+
+    def test_the_other_games_by_the_mouse(self):
+        self.click('commpr(5)', 'GIOCORAM', 'mazzoram', 'ramlas', 'ramturncom', 'ramesc', 'MENURAM')
+        self.click('commpr(6)', 'Commah(1)', 'Commah(6)', 'ELPEDMAH', 'Command17')
+        self.click('commpr(3)', 'giocodom', 'LEF(1)', 'Commdomban', 'FINEDOM', 'MENUDOM')
+        self.click('commpr(1)', 'Command44', 'Command33')
+        self.assertEqual(self.both('screen'), 'Frame2BIS')
+
+    def test_any_mixture_of_moves_and_buttons(self):
+        chance = random.Random(5)
+        for game in ('commpr(5)', 'GIOCORAM'):
+            self.click(game)
+        for step in range(300):
+            button = chance.choice(list(BITS))
+            kind = 'up' if self.browser.buttons & BITS[button] else 'down'
+            if step == 0 or chance.random() < 0.5:
+                x, y = (chance.randrange(792), chance.randrange(573))
+                self.browser.move(x, y)
+                self.native.answer(f'at {15 * x} {15 * y}')
+            else:
+                getattr(self.browser, kind)(button)
+                self.native.answer(f'{kind} {button}')
+            self.compare(f'step {step}')
+
+    def test_a_window_of_any_size_and_density_and_a_finger(self):
+        for density in 1, 1.5, 2:
+            self.start_browser(density)
+            self.browser.open(self.site)
+            for width, height in (1000, 574), (792, 900), (400, 300):
+                with self.subTest(density=density, width=width, height=height):
+                    self.show_menu(width, height, density)
+
+    def show_menu(self, width, height, density):
+        self.browser.resize(width, height)
+        width, height = width * density, height * density
+        self.browser.wait(f'return document.querySelector("canvas").width == {width}')
+        scale = min(width / 792, height / 573)
+        left, top = int((width - 792 * scale) / 2), int((height - 573 * scale) / 2)
+        self.assertEqual(self.browser.pixel(left + 396 * scale, top + 170 * scale), '00ffff')
+        for x in left + 1, left + 792 * scale - 2:
+            self.assertEqual(self.browser.pixel(x, top + 1), 'ff8000', 'the banner goes from edge to edge')
+        self.assertEqual(self.browser.pixel(0, 0), 'none' if left or top else 'ff8000')
+        self.browser.tap(*self.browser.where('commpr(2)'))
+        self.assertEqual(self.browser.answer('screen'), 'Frame3')
+        self.browser.tap(*self.browser.where('MENUVP'), end='touchCancel')
+        self.assertEqual(self.browser.answer('screen'), 'Frame3', 'a finger that the browser takes away clicks nothing')
+        self.browser.tap(*self.browser.where('MENUVP'))
+        self.assertEqual(self.browser.answer('screen'), 'Frameprincipale')
+
+    def test_a_long_random_session_of_all_games(self):
+        lines, digests, screens = play_at_random(self.native)
+        self.assertEqual(screens, SCREENS)
+        page = self.browser.execute_async_script('''
+            const [lines, done] = arguments;
+            const digest = async (text) => {
+              const bytes = await crypto.subtle.digest('SHA-256', new TextEncoder().encode(text));
+              return Array.from(new Uint8Array(bytes), (byte) => byte.toString(16).padStart(2, '0')).join('');
+            };
+            const digests = lines.map((line) => digest(room.answer(line) + room.answer('dump')));
+            Promise.all(digests).then(done, (error) => done(String(error)));''', lines)
+        self.assertEqual(len(page), len(digests))
+        differing = [line for line, ours, theirs in zip(lines, digests, page) if ours != theirs]
+        self.assertEqual(differing[:1], [], 'the first command after which the page shows something else')
+        self.compare_files()
+
+
+if __name__ == '__main__':
+    unittest.main(argv=sys.argv[:1], verbosity=2)
