@@ -12,13 +12,13 @@ room_pid=
 screen_pid=
 scratch=$(mktemp -d)
 
-cleanup() {
+close_screen() {
   [[ -z $room_pid ]] || kill -KILL "$room_pid" 2>/dev/null || true
   [[ -z $screen_pid ]] || kill "$screen_pid" 2>/dev/null || true
   wait 2>/dev/null
   rm -rf -- "$scratch"
 }
-trap cleanup EXIT
+trap close_screen EXIT
 trap 'exit 130' INT
 trap 'exit 143' TERM
 
