@@ -1,5 +1,5 @@
 // What the page's C++ calls of the browser: canvases, the cursor, the stored files and links. The functions
-// are declared, and told about, in canvas.hpp and browser.hpp.
+// are declared, and told about, in canvas.hpp, page.cpp and browser.cpp.
 mergeInto(LibraryManager.library, {
   // The contexts by their handles; the page's own canvas is 0.
   $contexts: [],

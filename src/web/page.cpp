@@ -25,6 +25,7 @@ void Page::fit(int width, int height, double density) {
   view_ = Viewport::fit(form_, width, height);
   density_ = density;
   cursor_ = {};
+  cursor_reset();
   form_.redraw();
 }
 
