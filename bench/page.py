@@ -52,7 +52,8 @@ def repaint(page, way, density):
 
 files = sorted(file for file in PAGE.iterdir() if file.is_file())
 total = sum(len(gzip.compress(file.read_bytes())) for file in files)
-print(f'page: {total / 1000:.0f} kB compressed, {sum(file.stat().st_size for file in files) / 1000:.0f} kB plain')
+plain = sum(file.stat().st_size for file in files)
+print(f'page: {total / 1000:.0f} kB compressed, {plain / 1000:.0f} kB plain')
 page, scripted = Site(PAGE), Site(SCRIPTED)
 starts = [first_menu(page) for _ in range(STARTS)]
 print(f'first menu: median {statistics.median(starts):.0f} ms, worst of {STARTS} {max(starts):.0f} ms')

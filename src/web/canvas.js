@@ -126,6 +126,7 @@ mergeInto(LibraryManager.library, {
   cursor_show: function (canvas, density, hotX, hotY) {
     const image = 'url(' + contextOf(canvas).canvas.toDataURL() + ')';
     const style = contextOf(0).canvas.style;
+    style.cursor = 'pointer'; // for browsers that do not take what follows
     style.cursor = 'image-set(' + image + ' ' + density + 'x) ' + hotX + ' ' + hotY + ', pointer';
   },
   cursor_reset__deps: ['$contextOf'],

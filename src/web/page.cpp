@@ -26,6 +26,7 @@ void Page::fit(int width, int height, double density) {
   density_ = density;
   cursor_ = {};
   cursor_reset();
+  showCursor();
   form_.redraw();
 }
 

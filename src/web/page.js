@@ -49,13 +49,13 @@ function play(room) {
     drawSoon();
   });
 
-  fit(Math.round(canvas.clientWidth * devicePixelRatio), Math.round(canvas.clientHeight * devicePixelRatio));
+  // The first call comes before the first frame. Not every browser tells the size in device pixels.
+  const exact = 'devicePixelContentBoxSize' in ResizeObserverEntry.prototype;
   new ResizeObserver(([entry]) => {
-    const size = entry.devicePixelContentBoxSize?.[0];
-    const width = size?.inlineSize ?? Math.round(entry.contentRect.width * devicePixelRatio);
-    const height = size?.blockSize ?? Math.round(entry.contentRect.height * devicePixelRatio);
-    if (width !== canvas.width || height !== canvas.height) fit(width, height);
-  }).observe(canvas, {box: 'device-pixel-content-box'});
+    const {inlineSize, blockSize} = exact ? entry.devicePixelContentBoxSize[0] : entry.contentBoxSize[0];
+    const density = exact ? 1 : devicePixelRatio;
+    fit(Math.round(inlineSize * density), Math.round(blockSize * density));
+  }).observe(canvas, {box: exact ? 'device-pixel-content-box' : 'content-box'});
 }
 
 try {

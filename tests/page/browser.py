@@ -13,16 +13,22 @@ PATIENCE = 10  # seconds
 BITS = {'left': 1, 'right': 2, 'middle': 4}
 
 
-class Quiet(http.server.SimpleHTTPRequestHandler):
+class Handler(http.server.SimpleHTTPRequestHandler):
+    """Says nothing, and lets the browser keep nothing of its own accord."""
+
     def log_message(self, *_):
         pass
+
+    def end_headers(self):
+        self.send_header('Cache-Control', 'no-store')
+        super().end_headers()
 
 
 class Site:
     """A page on a port of its own."""
 
     def __init__(self, directory):
-        handler = functools.partial(Quiet, directory=directory)
+        handler = functools.partial(Handler, directory=directory)
         self.server = http.server.ThreadingHTTPServer(('127.0.0.1', 0), handler)
         self.address = f'http://127.0.0.1:{self.server.server_port}/'
         threading.Thread(target=self.server.serve_forever, daemon=True).start()
@@ -92,10 +98,10 @@ class Browser(webdriver.Chrome):
         scale = min(width / 792, height / 573)
         return (width - 792 * scale) / 2 + x / 15 * scale, (height - 573 * scale) / 2 + y / 15 * scale
 
-    def press(self, x, y):
+    def press(self, x, y, button='left'):
         self.move(x, y)
-        self.down()
-        self.up()
+        self.down(button)
+        self.up(button)
 
     def tap(self, x, y, end='touchEnd'):
         touch = functools.partial(self.execute_cdp_cmd, 'Input.dispatchTouchEvent')

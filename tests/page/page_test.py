@@ -1,5 +1,6 @@
 #!/usr/bin/python3
-"""The room as a page, in a headless browser, beside the driver: page_test.py PAGE SCRIPTED_PAGE DRIVER [TEST...]
+"""The room as a page, in a headless browser, beside the driver:
+page_test.py PAGE SCRIPTED_PAGE DRIVER [TEST...]
 
 SCRIPTED_PAGE takes the driver's commands as well, so that what its controls hold can be compared with what
 those of the driver hold, control by control."""
@@ -173,7 +174,16 @@ class ShippedPage(PageCase):
         self.assertEqual(self.browser.execute_script(style), 'default')
         self.browser.move(*self.EMAIL)
         self.browser.resize(792, 700)
-        self.browser.wait(style + ' == "default"')
+        self.browser.wait('return document.querySelector("canvas").height == 700')
+        self.browser.move(*self.GROUND)
+        self.assertEqual(self.browser.execute_script(style), 'default')
+
+    def test_a_browser_that_does_not_tell_device_pixels(self):
+        self.browser.execute_cdp_cmd('Page.addScriptToEvaluateOnNewDocument', {
+            'source': 'delete ResizeObserverEntry.prototype.devicePixelContentBoxSize'})
+        self.browser.open(self.site)
+        self.assertEqual(self.browser.pixel(*self.VIDEOPOKER), '00ffff')
+        self.assertEqual(self.browser.execute_script('return document.querySelector("canvas").width'), 792)
 
     def test_without_a_network_the_page_opens_again(self):
         self.browser.wait("return caches.keys().then((keys) => keys.length > 0)")
@@ -260,9 +270,14 @@ class ScriptedPage(PageCase):
         self.assertEqual(self.both('screen'), 'Frame2BIS')
 
     def test_any_mixture_of_moves_and_buttons(self):
+        for game, button, back in ('commpr(3)', 'right', 'MENUDOM'), ('commpr(6)', 'middle', 'Command17'):
+            self.browser.press(*self.browser.where(game), button)
+            for line in f'over {game}', f'down {button}', f'up {button}':
+                self.native.answer(line)
+            self.compare(f'{game} by the {button} button')
+            self.click(back)
+        self.click('commpr(5)', 'GIOCORAM')
         chance = random.Random(5)
-        for game in ('commpr(5)', 'GIOCORAM'):
-            self.click(game)
         for step in range(300):
             button = chance.choice(list(BITS))
             kind = 'up' if self.browser.buttons & BITS[button] else 'down'
@@ -296,7 +311,7 @@ class ScriptedPage(PageCase):
         self.browser.tap(*self.browser.where('commpr(2)'))
         self.assertEqual(self.browser.answer('screen'), 'Frame3')
         self.browser.tap(*self.browser.where('MENUVP'), end='touchCancel')
-        self.assertEqual(self.browser.answer('screen'), 'Frame3', 'a finger that the browser takes away clicks nothing')
+        self.assertEqual(self.browser.answer('screen'), 'Frame3', 'a press that is taken away clicks nothing')
         self.browser.tap(*self.browser.where('MENUVP'))
         self.assertEqual(self.browser.answer('screen'), 'Frameprincipale')
 
