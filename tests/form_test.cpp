@@ -4,26 +4,12 @@
 
 #include <string>
 
+#include "null_painter.hpp"
 #include "shell/controls.hpp"
 #include "shell/marks.hpp"
 
 namespace tombolario {
 namespace {
-
-class NullPainter : public Painter {
- public:
-  void fillRect(const Rect&, Rgb) override {}
-  void outlineRect(const Rect&, Rgb, double) override {}
-  void fillPolygon(std::span<const Vec>, Rgb) override {}
-  void outlinePolygon(std::span<const Vec>, Rgb, double) override {}
-  void fillEllipse(const Rect&, Rgb) override {}
-  void line(Vec, Vec, Rgb, double) override {}
-  void text(const Rect&, std::string_view, const Font&, Rgb, Align) override {}
-  double textWidth(std::string_view, const Font&) override { return 0; }
-  void picture(const PictureId&, Vec, bool) override {}
-  void enter(const Rect&, double) override {}
-  void leave() override {}
-};
 
 /// A window with a frame, two buttons that touch, and a label, a shape and an overlapping frame.
 class FormTest : public testing::Test {

@@ -85,8 +85,9 @@ void Form::draw(Painter& painter, const Rect& bounds) const {
 
 Control* Form::find(std::string_view wanted) {
   if (wanted == name().text()) return this;
-  const auto found = std::find_if(controls_.begin(), controls_.end(),
-                                  [&](const Control* c) { return c->name().text() == wanted; });
+  const auto found = std::find_if(controls_.begin(), controls_.end(), [&](const Control* c) {
+    return wanted.starts_with(c->name().base) && c->name().text() == wanted;
+  });
   return found != controls_.end() ? *found : nullptr;
 }
 

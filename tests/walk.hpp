@@ -1,0 +1,62 @@
+#pragma once
+
+#include <array>
+#include <cstdint>
+#include <span>
+
+#include "driver/driver.hpp"
+#include "invariants.hpp"
+#include "shell/viewport.hpp"
+#include "watched_files.hpp"
+
+namespace tombolario {
+
+/// A player without sense, whose every choice is read from bytes: it presses anything with any button,
+/// drags off it, resizes the window, finds the data files harmed, and now and then plays on. It seldom
+/// presses what leaves a game or drops a match, so that games come to their end. The same bytes play the
+/// same room.
+class Walk {
+ public:
+  Walk(std::span<const std::uint8_t> choices, const std::filesystem::path& directory);
+
+  /// Leaves the main menu for a game, 1 to 6.
+  void enter(int game);
+  /// Plays until no byte is left. Throws a Violation after the first event that leaves the rules.
+  void play();
+
+  /// How many moves, presses and releases of the mouse there have been.
+  long events() const { return events_; }
+  const Invariants& invariants() const { return invariants_; }
+  const WatchedFiles& files() const { return files_; }
+
+ private:
+  /// A number of 0 to n - 1.
+  int pick(int n);
+  MouseButton anyButton() { return static_cast<MouseButton>(pick(3)); }
+  Point anyPlace() { return {pick(12400) - 250, pick(9000) - 200}; }
+  Point middleOfSomething();
+  Point placeIn(const Control& control);
+  void move(Point point);
+  void press(MouseButton button);
+  void release(MouseButton button);
+  void click(Point point);
+  void step();
+  void useScrollBar();
+  void resize();
+  void done();
+
+  std::span<const std::uint8_t> choices_;
+  WatchedFiles files_;
+  ScriptedHost host_{files_};
+  Room room_{host_};
+  Form& form_ = room_.form();
+  Invariants invariants_{form_};
+  Viewport view_;
+  std::array<const Control*, 2> bars_{form_.find("HScrolldom"), form_.find("VScrollram1")};
+  std::vector<const Control*> leaves_;
+  std::vector<const Control*> buttons_;  // all others
+  std::vector<const Control*> onView_;
+  long events_ = 0;
+};
+
+}  // namespace tombolario

@@ -1,0 +1,35 @@
+#pragma once
+
+#include <filesystem>
+#include <map>
+
+#include "shell/data_directory.hpp"
+#include "shell/form.hpp"
+
+namespace tombolario {
+
+/// The data files of a room in a directory, looked at around each call: nothing but what is asked for may
+/// change, and what is stored is what the player sees stored. Throws a Violation otherwise.
+class WatchedFiles : public DataFiles {
+ public:
+  explicit WatchedFiles(std::filesystem::path directory);
+
+  /// The room whose files these are.
+  void watch(Form& room) { room_ = &room; }
+  std::optional<Bytes> read(const std::string& name, std::size_t count) override;
+  bool write(const std::string& name, std::span<const unsigned char> bytes) override;
+
+  /// Something happens to a file behind the room's back; kind and size are any numbers.
+  void harm(int kind, int size);
+  long saves() const { return saves_; }
+
+ private:
+  void checkNumbers(const std::string& name, std::span<const unsigned char> bytes) const;
+
+  std::filesystem::path directory_;
+  DataDirectory files_;
+  Form* room_ = nullptr;
+  long saves_ = 0;
+};
+
+}  // namespace tombolario
