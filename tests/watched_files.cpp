@@ -44,7 +44,7 @@ WatchedFiles::WatchedFiles(fs::path directory) : directory_(std::move(directory)
 
 std::optional<DataFiles::Bytes> WatchedFiles::read(const std::string& name, std::size_t count) {
   const Stored before = storedIn(directory_ / name);
-  const auto bytes = files_.read(name, count);
+  auto bytes = files_.read(name, count);
   const Stored after = storedIn(directory_ / name);
   require(after == before || isEmptyFileInPlaceOfNone(before, after), "reading has changed a file");
   require(bytes.has_value() == (after.type == fs::file_type::regular), "a file can and cannot be read");
