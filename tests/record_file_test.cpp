@@ -2,10 +2,13 @@
 
 #include <sys/resource.h>
 #include <sys/stat.h>
+#include <sys/wait.h>
 #include <unistd.h>
 
 #include <csignal>
+#include <random>
 
+#include "sanitized.hpp"
 #include "session.hpp"
 
 namespace tombolario {
@@ -77,6 +80,17 @@ TEST_F(RecordFileTest, WhateverStandsInTheWayIsLeftAsItIs) {
   EXPECT_FALSE(lost.write({5}));
 }
 
+TEST_F(RecordFileTest, ADirectoryThatIsGoneRefusesUntilItIsBack) {
+  ASSERT_TRUE(file.write({99}));
+  std::filesystem::remove_all(directory.path());
+  EXPECT_EQ(file.read(1), std::nullopt);
+  EXPECT_FALSE(file.write({5}));
+  EXPECT_FALSE(std::filesystem::exists(directory.path()));
+  std::filesystem::create_directory(directory.path());
+  EXPECT_TRUE(file.write({5}));
+  EXPECT_EQ(file.read(1), 5);
+}
+
 /// Root may write everything; for as long as this lives the process is an ordinary user.
 class OrdinaryUser {
  public:
@@ -131,6 +145,37 @@ TEST_F(RecordFileTest, AFullDiskKeepsWhatIsStored) {
   EXPECT_TRUE(kept);
   EXPECT_EQ(file.read(1), 98);
   EXPECT_EQ(file.read(2), std::nullopt);
+}
+
+TEST_F(RecordFileTest, AKilledProgramLeavesTheOldNumbersOrTheNewOnes) {
+  constexpr int kKills = kSanitized ? 200 : 1000;
+  std::mt19937 engine(20261123);
+  int changed = 0;
+  for (int times = 0; times < kKills; ++times) {
+    const std::string before = contentOf(path);
+    const int first = times % 300 * 100;  // of the numbers that this child stores
+    const pid_t child = fork();
+    if (child == 0) {
+      for (int i = 0;; i = (i + 1) % 100) {
+        const auto number = static_cast<std::int16_t>(first + i);
+        if (!file.write({number, static_cast<std::int16_t>(-number)})) _exit(1);
+      }
+    }
+    ASSERT_GT(child, 0);
+    usleep(static_cast<useconds_t>(engine() % 1500));
+    kill(child, SIGKILL);
+    int status = 0;
+    waitpid(child, &status, 0);
+    ASSERT_TRUE(WIFSIGNALED(status)) << "a save was refused";
+    const std::string after = contentOf(path);
+    if (after == before) continue;
+    ++changed;
+    ASSERT_EQ(after.size(), 42U);
+    const std::int16_t number = file.read(1).value_or(0);
+    ASSERT_TRUE(number >= first && number < first + 100) << number;
+    ASSERT_EQ(file.read(2), -number) << "half of a save";
+  }
+  EXPECT_GT(changed, kKills / 10);
 }
 
 }  // namespace
