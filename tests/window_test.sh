@@ -151,4 +151,8 @@ status=0
 wait "$room_pid" || status=$?
 room_pid=
 ((status == 0)) || die "the room ended with status $status"
+
+status=0
+env -u DISPLAY -u SDL_VIDEODRIVER timeout "$patience" "$1" 2>/dev/null || status=$?
+((status == 1)) || die "without a display the room ends with status $status"
 echo "window_test: passed"

@@ -44,9 +44,12 @@ class Window {
 
   /// Handles events until the window is closed.
   void run();
+  /// Brings one event to the room; nothing is drawn yet.
+  void handle(const SDL_Event& event);
+  /// Draws what has changed, if anything has, and gives the mouse its cursor.
+  void show();
 
  private:
-  void handle(const SDL_Event& event);
   void fit();
   void draw();
   void showCursor();
