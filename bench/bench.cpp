@@ -6,24 +6,12 @@
 #include <random>
 #include <string>
 
+#include "bench_host.hpp"
 #include "desktop/cairo_painter.hpp"
 #include "room/room.hpp"
-#include "shell/clock_source.hpp"
-#include "shell/data_directory.hpp"
 
 namespace tombolario {
 namespace {
-
-class BenchHost : public Host {
- public:
-  UniformSource& uniform() override { return uniform_; }
-  void openAddress(const std::string&) override {}
-  DataFiles& dataFiles() override { return dataFiles_; }
-
- private:
-  ClockSource uniform_;
-  DataDirectory dataFiles_{std::filesystem::temp_directory_path()};
-};
 
 /// A started room, played to one of its screens.
 struct Played {

@@ -1,8 +1,10 @@
-// How long the room takes from its start to the first picture in its window, and how much memory it
-// takes at most. Run on a display of its own: start PROGRAM [TIMES]
+// How long programs take from their start to the first painted window, and how much memory they take at
+// most until a second later. They take turns, so that noise meets all alike. Run on a display of its own:
+// start TIMES PROGRAM...
 
 #include <X11/Xlib.h>
 #include <X11/Xutil.h>
+#include <fcntl.h>
 #include <sys/resource.h>
 #include <sys/wait.h>
 #include <unistd.h>
@@ -12,6 +14,9 @@
 #include <csignal>
 #include <cstdio>
 #include <cstdlib>
+#include <cstring>
+#include <set>
+#include <string>
 #include <thread>
 #include <vector>
 
@@ -19,70 +24,94 @@ namespace {
 
 using Clock = std::chrono::steady_clock;
 
-constexpr auto kLongest = std::chrono::seconds(20);
-constexpr unsigned long kBanner = 0xFF8000;
+constexpr auto kLongest = std::chrono::seconds(30);
+constexpr auto kSettling = std::chrono::seconds(1);
+constexpr int kColumns = 16;
+constexpr std::size_t kPainted = 4;  // colours; a window that is only filled has fewer, with the bare screen
 
-/// Whether some pixel of the middle column of the screen shows the banner of the main menu.
-bool bannerShows(Display* display) {
-  const Window root = DefaultRootWindow(display);
-  const int middle = DisplayWidth(display, 0) / 2 - 300;
-  XImage* column = XGetImage(display, root, middle, 0, 1, static_cast<unsigned>(DisplayHeight(display, 0)),
-                             AllPlanes, ZPixmap);
-  if (column == nullptr) return false;
-  bool shows = false;
-  for (int y = 0; y < column->height && !shows; ++y) shows = (XGetPixel(column, 0, y) & 0xFFFFFF) == kBanner;
-  XDestroyImage(column);
-  return shows;
+/// How many colours there are in some columns of the screen.
+std::size_t coloursOn(Display* display) {
+  std::set<unsigned long> colours;
+  for (int i = 0; i < kColumns && colours.size() < kPainted; ++i) {
+    XImage* column = XGetImage(display, DefaultRootWindow(display), DisplayWidth(display, 0) * i / kColumns,
+                               0, 1, static_cast<unsigned>(DisplayHeight(display, 0)), AllPlanes, ZPixmap);
+    if (column == nullptr) continue;
+    for (int y = 0; y < column->height; ++y) colours.insert(XGetPixel(column, 0, y) & 0xFFFFFF);
+    XDestroyImage(column);
+  }
+  return colours.size();
 }
 
 struct Start {
   double milliseconds;
-  long kibibytes;
+  double mebibytes;
 };
 
 Start measure(Display* display, const char* program) {
   const auto before = Clock::now();
   const pid_t child = fork();
   if (child == 0) {
-    execl(program, program, nullptr);
+    const int nowhere = open("/dev/null", O_WRONLY);
+    dup2(nowhere, STDOUT_FILENO);
+    dup2(nowhere, STDERR_FILENO);
+    execlp(program, program, nullptr);
     std::_Exit(127);
   }
-  while (!bannerShows(display)) {
+  while (coloursOn(display) < kPainted) {
     if (Clock::now() - before > kLongest) {
-      std::fprintf(stderr, "start: no window\n");
+      std::fprintf(stderr, "start: no window of %s\n", program);
       kill(child, SIGKILL);
       std::exit(1);
     }
     std::this_thread::sleep_for(std::chrono::microseconds(200));
   }
   const std::chrono::duration<double, std::milli> taken = Clock::now() - before;
-  kill(child, SIGTERM);
+  std::this_thread::sleep_for(kSettling);
+  kill(child, SIGKILL);
   int status = 0;
   rusage usage{};
   wait4(child, &status, 0, &usage);
-  while (bannerShows(display)) std::this_thread::sleep_for(std::chrono::milliseconds(1));
-  return {taken.count(), usage.ru_maxrss};
+  while (coloursOn(display) > 1) std::this_thread::sleep_for(std::chrono::milliseconds(1));
+  return {taken.count(), static_cast<double>(usage.ru_maxrss) / 1024};
 }
+
+struct Program {
+  const char* path;
+  std::vector<double> milliseconds;
+  double mebibytes = 0;
+
+  const char* name() const {
+    const char* slash = std::strrchr(path, '/');
+    return slash != nullptr ? slash + 1 : path;
+  }
+};
 
 }  // namespace
 
 int main(int argc, char** argv) {
-  Display* display = argc > 1 ? XOpenDisplay(nullptr) : nullptr;
+  const int times = argc > 2 ? std::atoi(argv[1]) : 0;
+  Display* display = times > 0 ? XOpenDisplay(nullptr) : nullptr;
   if (display == nullptr) {
-    std::fprintf(stderr, "start PROGRAM [TIMES], on a display\n");
+    std::fprintf(stderr, "start TIMES PROGRAM..., on a display\n");
     return 2;
   }
-  const int times = argc > 2 ? std::max(1, std::atoi(argv[2])) : 10;
-  std::vector<double> milliseconds;
-  long most = 0;
+  std::vector<Program> programs;
+  for (int i = 2; i < argc; ++i) programs.push_back({argv[i], {}});
+  for (const Program& program : programs) measure(display, program.path);  // the disk is read once for all
   for (int i = 0; i < times; ++i) {
-    const Start start = measure(display, argv[1]);
-    milliseconds.push_back(start.milliseconds);
-    most = std::max(most, start.kibibytes);
+    for (Program& program : programs) {
+      const Start start = measure(display, program.path);
+      program.milliseconds.push_back(start.milliseconds);
+      program.mebibytes = std::max(program.mebibytes, start.mebibytes);
+    }
   }
-  std::sort(milliseconds.begin(), milliseconds.end());
-  std::printf("first window: median %.0f ms, best %.0f ms, worst %.0f ms of %d starts\n",
-              milliseconds[milliseconds.size() / 2], milliseconds.front(), milliseconds.back(), times);
-  std::printf("peak memory: %.1f MiB\n", static_cast<double>(most) / 1024);
+  std::printf("%-20s %29s %12s\n", "", "first painted window, ms", "peak memory");
+  std::printf("%-20s %9s %9s %9s %12s\n", "", "median", "best", "worst", "MiB");
+  for (Program& program : programs) {
+    auto& taken = program.milliseconds;
+    std::sort(taken.begin(), taken.end());
+    std::printf("%-20s %9.0f %9.0f %9.0f %12.1f\n", program.name(), taken[taken.size() / 2], taken.front(),
+                taken.back(), program.mebibytes);
+  }
   XCloseDisplay(display);
 }

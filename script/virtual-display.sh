@@ -22,12 +22,12 @@ trap close_screen EXIT
 trap 'exit 130' INT
 trap 'exit 143' TERM
 
-# The screen is large enough for a window of twice the size of the room, and goes on when nobody looks at it:
-# it would turn away who comes while it starts over.
+# open_screen [WIDTHxHEIGHT]: large enough by itself for a window of twice the size of the room. The screen goes
+# on when nobody looks at it: it would turn away who comes while it starts over.
 open_screen() {
   local ready=$scratch/ready number
   mkfifo "$ready"
-  Xvfb -noreset -screen 0 1700x1300x24 -displayfd 3 3>"$ready" >"$scratch/screen.log" 2>&1 </dev/null &
+  Xvfb -noreset -screen 0 "${1-1700x1300}x24" -displayfd 3 3>"$ready" >"$scratch/screen.log" 2>&1 </dev/null &
   screen_pid=$!
   if ! read -r -t "$patience" number <"$ready"; then
     cat "$scratch/screen.log" >&2

@@ -1,0 +1,23 @@
+#pragma once
+
+#include <filesystem>
+
+#include "shell/clock_source.hpp"
+#include "shell/data_directory.hpp"
+#include "shell/host.hpp"
+
+namespace tombolario {
+
+/// The surroundings of a room that is measured: no address goes to the desktop.
+class BenchHost : public Host {
+ public:
+  UniformSource& uniform() override { return uniform_; }
+  void openAddress(const std::string&) override {}
+  DataFiles& dataFiles() override { return dataFiles_; }
+
+ private:
+  ClockSource uniform_;
+  DataDirectory dataFiles_{std::filesystem::temp_directory_path()};
+};
+
+}  // namespace tombolario
