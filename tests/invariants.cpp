@@ -222,7 +222,7 @@ class Ramino : public Invariant {
  public:
   explicit Ramino(Form& form)
       : player_(row(form, "ramin", 0, 8)),
-        computer_(row(form, "ramin", 10, 18)),
+        computer_(row(form, "ramin", 10, 20)),
         list_(row(form, "visualram", 0, 36)),
         ends_{form.find("ramvin"), form.find("ramper"), form.find("rampar")},
         inPlay_(form.find("ramin(9)")),
