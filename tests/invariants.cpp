@@ -14,6 +14,7 @@ namespace tombolario {
 
 namespace {
 
+using Check = std::function<bool()>;
 using Row = std::vector<const Control*>;
 
 /// The controls of an array, from one index to another.
@@ -63,257 +64,152 @@ class Seen {
   std::bitset<kPieces> numbers_;
 };
 
-class VideoPoker : public Invariant {
- public:
-  explicit VideoPoker(Form& form)
-      : hand_(row(form, "Pict", 0, 4)),
-        rows_(row(form, "segn", 0, 10)),
-        change_(form.find("Command3")),
-        table_(form.find("Frame3BIS")) {}
-
-  void check() override {
-    const long lit = visibleOf(rows_);
+Check videoPoker(Form& form) {
+  return [hand = row(form, "Pict", 0, 4), rows = row(form, "segn", 0, 10), change = form.find("Command3"),
+          table = form.find("Frame3BIS")] {
+    const long lit = visibleOf(rows);
     require(lit <= 1, "a hand is paid twice");
-    if (!table_->Visible) return;
-    Seen(pictures::Picture1, 53).add(hand_);
-    require(lit == 0 || !change_->Enabled, "a hand that is paid can be changed");
-    count(lit == 1);
-  }
+    if (!table->Visible) return false;
+    Seen(pictures::Picture1, 53).add(hand);
+    require(lit == 0 || !change->Enabled, "a hand that is paid can be changed");
+    return lit == 1;
+  };
+}
 
- private:
-  Row hand_, rows_;
-  const Control* change_;
-  const Control* table_;
-};
-
-class Poker : public Invariant {
- public:
-  explicit Poker(Form& form)
-      : player_(row(form, "Pictt", 0, 4)),
-        computer_(row(form, "Pictt", 10, 14)),
-        change_(form.find("Command33")),
-        next_(form.find("Command11")),
-        mark_(form.find("Command22(0)")),
-        result_(form.find("result")),
-        table_(form.find("Frame2BIS")) {}
-
-  void check() override {
-    if (!table_->Visible) return;
+Check poker(Form& form) {
+  return [player = row(form, "Pictt", 0, 4), computer = row(form, "Pictt", 10, 14),
+          change = form.find("Command33"), next = form.find("Command11"), mark = form.find("Command22(0)"),
+          result = form.find("result"), table = form.find("Frame2BIS")] {
+    if (!table->Visible) return false;
     Seen cards(pictures::Picture11, 52);
-    cards.add(player_);
-    const bool covered = computer_.front()->Picture == PictureId(pictures::ufo);
-    if (!covered) cards.add(computer_);
-    require(covered == mark_->Visible, "the computer shows its cards before the player has changed");
-    require(change_->Enabled.get() == mark_->Visible, "a hand is changed while it can be marked");
-    if (result_->Visible) require(!change_->Enabled && !next_->Enabled, "a match that is over goes on");
-    count(result_->Visible);
-  }
+    cards.add(player);
+    const bool covered = computer.front()->Picture == PictureId(pictures::ufo);
+    if (!covered) cards.add(computer);
+    require(covered == mark->Visible, "the computer shows its cards before the player has changed");
+    require(change->Enabled.get() == mark->Visible, "a hand is changed while it can be marked");
+    if (result->Visible) require(!change->Enabled && !next->Enabled, "a match that is over goes on");
+    return result->Visible.get();
+  };
+}
 
- private:
-  Row player_, computer_;
-  const Control* change_;
-  const Control* next_;
-  const Control* mark_;
-  const Control* result_;
-  const Control* table_;
-};
+/// The line is one chain; together with both hands it is the whole set.
+Check domino(Form& form) {
+  return [hand = row(form, "domin", 1, 14), buttons = row(form, "LEF", 1, 14),
+          line = row(form, "VISUAL", 0, 60), pass = form.find("passadomban"),
+          computer = form.find("Commdomban"), result = form.find("NUOVAPARDOM"),
+          playerHas = form.find("domcont1"), computerHas = form.find("domcont2"),
+          leftEnd = form.find("wwwdom2"), rightEnd = form.find("wwwdom"), bar = form.find("HScrolldom"),
+          table = form.find("Frame5BIS")] {
+    const auto box = [&line](int number) { return line.at(static_cast<std::size_t>(number)); };
+    require(pass->Enabled + computer->Enabled + result->Visible <= 1, "it is nobody's turn, or two turns");
+    require(visibleOf(line) == 1 && box(bar->Value)->Visible, "the bar and the line differ");
+    if (!table->Visible) return false;
 
-class Domino : public Invariant {
- public:
-  explicit Domino(Form& form)
-      : hand_(row(form, "domin", 1, 14)),
-        left_(row(form, "LEF", 1, 14)),
-        line_(row(form, "VISUAL", 0, 60)),
-        pass_(form.find("passadomban")),
-        computer_(form.find("Commdomban")),
-        result_(form.find("NUOVAPARDOM")),
-        playerHas_(form.find("domcont1")),
-        computerHas_(form.find("domcont2")),
-        leftEnd_(form.find("wwwdom2")),
-        rightEnd_(form.find("wwwdom")),
-        bar_(form.find("HScrolldom")),
-        table_(form.find("Frame5BIS")) {}
-
-  void check() override {
-    require(pass_->Enabled + computer_->Enabled + result_->Visible <= 1, "it is nobody's turn, or two turns");
-    require(visibleOf(line_) == 1 && box(bar_->Value)->Visible, "the bar and the line differ");
-    if (!table_->Visible) return;
-    checkTiles();
-    count(result_->Visible);
-  }
-
- private:
-  const Control* box(int number) const { return line_.at(static_cast<std::size_t>(number)); }
-
-  /// The line is one chain; together with both hands it is the whole set.
-  void checkTiles() const {
-    constexpr int kHand = 14;
     const auto isBlank = [](const Control* end) {
       return end->Picture == PictureId(pictures::domin, kFaces);
     };
-    const int first = bar_->Min - !isBlank(leftEnd_);
-    const int last = bar_->Max + !isBlank(rightEnd_);
+    const int first = bar->Min - !isBlank(leftEnd);
+    const int last = bar->Max + !isBlank(rightEnd);
     Seen tiles(pictures::dominob, kTiles);
-    for (int number = first; number <= last; ++number) {
-      tiles.add(box(number));
-      if (number == first) continue;
-      require(
-          kFaceNumbers[tiles.faceOn(box(number - 1))].second == kFaceNumbers[tiles.faceOn(box(number))].first,
-          "neighbours in the line do not match");
+    for (int number = first; number <= last; ++number) tiles.add(box(number));
+    for (int number = first + 1; number <= last; ++number) {
+      const Tile& before = kFaceNumbers[tiles.faceOn(box(number - 1))];
+      require(before.second == kFaceNumbers[tiles.faceOn(box(number))].first,
+              "neighbours in the line do not match");
     }
-    for (const Control* tile : hand_) {
+    for (const Control* tile : hand) {
       if (tile->Visible) tiles.add(tile);
     }
-    require(visibleOf(hand_) == visibleOf(left_) && visibleOf(hand_) == numberOn(playerHas_),
+    require(visibleOf(hand) == visibleOf(buttons) && visibleOf(hand) == numberOn(playerHas),
             "the player's tiles are miscounted");
-    require(last - first + 1 == 2 * kHand - numberOn(playerHas_) - numberOn(computerHas_), "a tile is lost");
-  }
+    require(last - first + 1 + numberOn(playerHas) + numberOn(computerHas) == kTiles, "a tile is lost");
+    return result->Visible.get();
+  };
+}
 
-  Row hand_, left_, line_;
-  const Control* pass_;
-  const Control* computer_;
-  const Control* result_;
-  const Control* playerHas_;
-  const Control* computerHas_;
-  const Control* leftEnd_;
-  const Control* rightEnd_;
-  const Control* bar_;
-  const Control* table_;
-};
-
-class Chain : public Invariant {
- public:
-  explicit Chain(Form& form)
-      : tiles_(row(form, "pictca", 1, 5)),
-        marks_(row(form, "Sh", 1, 5)),
-        full_(form.find("Lok")),
-        links_(form.find("Lll1")),
-        count_(form.find("nmcat")),
-        left_(form.find("Lmacatpu")),
-        table_(form.find("Frame4BIS")) {}
-
-  void check() override {
+Check chain(Form& form) {
+  return [onTable = row(form, "pictca", 1, 5), marks = row(form, "Sh", 1, 5), full = form.find("Lok"),
+          linked = form.find("Lll1"), next = form.find("nmcat"), left = form.find("Lmacatpu"),
+          table = form.find("Frame4BIS")] {
     const auto exchanged = [](const Control* mark) { return mark->BorderColor == Colour(kRed); };
     const auto substituted = [](const Control* mark) { return mark->FillColor == Colour(0xFFFF80); };
-    require(std::count_if(marks_.begin(), marks_.end(), exchanged) <= 2, "three tiles to exchange");
-    require(std::count_if(marks_.begin(), marks_.end(), substituted) <= 2, "three tiles to substitute");
-    count(!count_->Enabled && left_->Caption == "10");
-    if (!table_->Visible) return;
+    require(std::count_if(marks.begin(), marks.end(), exchanged) <= 2, "three tiles to exchange");
+    require(std::count_if(marks.begin(), marks.end(), substituted) <= 2, "three tiles to substitute");
+    const bool levelIsOver = !next->Enabled && left->Caption == "10";
+    if (!table->Visible) return levelIsOver;
+
     Seen tiles(pictures::Picture2, kChainTiles);
-    tiles.add(tiles_);
+    tiles.add(onTable);
     int links = 0;
-    for (std::size_t i = 1; i < tiles_.size(); ++i) {
-      links += kChainSet[tiles.faceOn(tiles_[i - 1])].second == kChainSet[tiles.faceOn(tiles_[i])].first;
+    for (std::size_t i = 1; i < onTable.size(); ++i) {
+      links += kChainSet[tiles.faceOn(onTable[i - 1])].second == kChainSet[tiles.faceOn(onTable[i])].first;
     }
-    require(numberOn(links_) == links && full_->Visible == (links == 4), "the links are miscounted");
-    require(numberOn(left_) >= 1 && numberOn(left_) <= 10, "a level of more than ten hands");
-  }
+    require(numberOn(linked) == links && full->Visible == (links == 4), "the links are miscounted");
+    require(numberOn(left) >= 1 && numberOn(left) <= 10, "a level of more than ten hands");
+    return levelIsOver;
+  };
+}
 
- private:
-  Row tiles_, marks_;
-  const Control* full_;
-  const Control* links_;
-  const Control* count_;
-  const Control* left_;
-  const Control* table_;
-};
-
-class Ramino : public Invariant {
- public:
-  explicit Ramino(Form& form)
-      : player_(row(form, "ramin", 0, 8)),
-        computer_(row(form, "ramin", 10, 20)),
-        list_(row(form, "visualram", 0, 36)),
-        ends_{form.find("ramvin"), form.find("ramper"), form.find("rampar")},
-        inPlay_(form.find("ramin(9)")),
-        fromStock_(form.find("Ramfr(9)")),
-        fromTable_(form.find("Frame19b")),
-        onTable_(form.find("cartatr")),
-        bar_(form.find("VScrollram1")),
-        draw_(form.find("mazzoram")),
-        leave_(form.find("ramlas")),
-        turn_(form.find("ramturncom")),
-        button_(form.find("ramCom(0)")) {}
-
-  void check() override {
-    const long ended = visibleOf(ends_);
+Check ramino(Form& form) {
+  return [player = row(form, "ramin", 0, 8), computer = row(form, "ramin", 10, 20),
+          list = row(form, "visualram", 0, 36),
+          ends = Row{form.find("ramvin"), form.find("ramper"), form.find("rampar")},
+          inPlay = form.find("ramin(9)"), fromStock = form.find("Ramfr(9)"),
+          fromTable = form.find("Frame19b"), onTable = form.find("cartatr"), bar = form.find("VScrollram1"),
+          draw = form.find("mazzoram"), leave = form.find("ramlas"), turn = form.find("ramturncom"),
+          button = form.find("ramCom(0)")] {
+    const long ended = visibleOf(ends);
     require(ended <= 1, "a hand has two ends");
-    require(draw_->Enabled + leave_->Enabled + turn_->Enabled == 1 - ended,
-            "it is nobody's turn, or two turns");
-    require(button_->Enabled == (ended == 0), "a hand that is over goes on");
-    checkCards();
-    count(ended == 1);
-  }
+    require(draw->Enabled + leave->Enabled + turn->Enabled == 1 - ended, "it is nobody's turn, or two turns");
+    require(button->Enabled == (ended == 0), "a hand that is over goes on");
 
- private:
-  void checkCards() const {
     Seen cards(pictures::ramcar, 52);
-    cards.add(player_);
-    cards.add(computer_);
-    cards.add(onTable_);
-    if (fromStock_->Visible) cards.add(inPlay_);
-    if (fromTable_->Visible) require(inPlay_->Picture == onTable_->Picture.get(), "another card was taken");
-    const long seen = visibleOf(list_);
+    cards.add(player);
+    cards.add(computer);
+    cards.add(onTable);
+    if (fromStock->Visible) cards.add(inPlay);
+    if (fromTable->Visible) require(inPlay->Picture == onTable->Picture.get(), "another card was taken");
+    const long seen = visibleOf(list);
     require(seen <= 1, "two entries of a list at once");
     // A card that was just covered stays on view until the turn is done.
-    const int covered = seen == 0 ? 0 : bar_->Max + !fromStock_->Visible;
-    for (int i = 0; i < covered; ++i) cards.add(list_.at(static_cast<std::size_t>(i)));
-  }
+    const int covered = seen == 0 ? 0 : bar->Max + !fromStock->Visible;
+    for (int i = 0; i < covered; ++i) cards.add(list.at(static_cast<std::size_t>(i)));
+    return ended == 1;
+  };
+}
 
-  Row player_, computer_, list_, ends_;
-  const Control* inPlay_;
-  const Control* fromStock_;
-  const Control* fromTable_;
-  const Control* onTable_;
-  const Control* bar_;
-  const Control* draw_;
-  const Control* leave_;
-  const Control* turn_;
-  const Control* button_;
-};
-
-class Mahjongg : public Invariant {
- public:
-  explicit Mahjongg(Form& form)
-      : cells_(row(form, "Commah", 1, 120)),
-        bench_(row(form, "labmah", 0, kKinds - 1)),
-        search_(form.find("CERPEDMAH")),
-        remove_(form.find("ELPEDMAH")),
-        screen_(form.find("Frame7")) {}
-
-  void check() override {
-    if (!screen_->Visible) return;
+Check mahjongg(Form& form) {
+  return [cells = row(form, "Commah", 1, 120), bench = row(form, "labmah", 0, kKinds - 1),
+          search = form.find("CERPEDMAH"), remove = form.find("ELPEDMAH"), screen = form.find("Frame7")] {
+    if (!screen->Visible) return false;
     const auto selected = [](const Control* cell) { return cell->BackColor == Colour(kRed); };
-    const auto chosen = std::count_if(cells_.begin(), cells_.end(), selected);
-    require(search_->Enabled == (chosen == 1) && remove_->Enabled == (chosen == 2),
+    const auto chosen = std::count_if(cells.begin(), cells.end(), selected);
+    require(search->Enabled == (chosen == 1) && remove->Enabled == (chosen == 2),
             "the selection is miscounted");
     Seen tiles(pictures::PICMAH, kPieces);
     std::array<int, kKinds> left{};
-    for (const Control* cell : cells_) {
+    for (const Control* cell : cells) {
       if (!cell->Visible) continue;
       tiles.add(cell);
       ++left.at(static_cast<std::size_t>(kindOfPiece(tiles.faceOn(cell))));
     }
     for (std::size_t kind = 0; kind < left.size(); ++kind) {
-      require(left[kind] % 2 == 0 && numberOn(bench_[kind]) == left[kind], "a kind is miscounted");
-      require(bench_[kind]->Visible == (left[kind] > 0), "a kind that is gone is seen");
+      require(left[kind] % 2 == 0 && numberOn(bench[kind]) == left[kind], "a kind is miscounted");
+      require(bench[kind]->Visible == (left[kind] > 0), "a kind that is gone is seen");
     }
-    count(chosen == 2);
-  }
-
- private:
-  Row cells_, bench_;
-  const Control* search_;
-  const Control* remove_;
-  const Control* screen_;
-};
+    return chosen == 2;
+  };
+}
 
 }  // namespace
 
 Invariants::Invariants(Form& room)
-    : games_{std::make_unique<Poker>(room),  std::make_unique<VideoPoker>(room),
-             std::make_unique<Domino>(room), std::make_unique<Chain>(room),
-             std::make_unique<Ramino>(room), std::make_unique<Mahjongg>(room)} {
+    : games_{{{poker(room)},
+              {videoPoker(room)},
+              {domino(room)},
+              {chain(room)},
+              {ramino(room)},
+              {mahjongg(room)}}} {
   for (const Control* control : room.controls()) {
     if (control->parent() == &room) screens_.push_back(control);
   }
@@ -333,7 +229,11 @@ void Invariants::check() {
     const std::string& caption = label->Caption;
     if (!caption.empty() && !isNumber(caption)) throw Violation(label->name().text() + " says " + caption);
   }
-  for (const auto& game : games_) game->check();
+  for (Game& game : games_) {
+    const bool ended = game.check();
+    game.ends += ended && !game.ended;
+    game.ended = ended;
+  }
 }
 
 }  // namespace tombolario

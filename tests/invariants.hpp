@@ -1,10 +1,9 @@
 #pragma once
 
 #include <array>
-#include <memory>
+#include <functional>
 #include <stdexcept>
 #include <string>
-#include <utility>
 #include <vector>
 
 #include "shell/form.hpp"
@@ -20,36 +19,26 @@ inline void require(bool holds, const char* otherwise) {
   if (!holds) throw Violation(otherwise);
 }
 
-/// What can be seen to hold on one screen after every event, however the player got there.
-class Invariant {
- public:
-  virtual ~Invariant() = default;
-  /// Throws a Violation.
-  virtual void check() = 0;
-  /// How often the game came to an end.
-  long ends() const { return ends_; }
-
- protected:
-  void count(bool end) { ends_ += !std::exchange(ended_, end) && end; }
-
- private:
-  long ends_ = 0;
-  bool ended_ = false;
-};
-
-/// All that must hold after every event, in the whole room.
+/// All that can be seen to hold after every event, however the player got there.
 class Invariants {
  public:
   explicit Invariants(Form& room);
 
+  /// Throws a Violation.
   void check();
   /// How often a game, 1 to 6 as on the main menu, came to an end.
-  long ends(int game) const { return games_.at(static_cast<std::size_t>(game - 1))->ends(); }
+  long ends(int game) const { return games_.at(static_cast<std::size_t>(game - 1)).ends; }
 
  private:
+  struct Game {
+    std::function<bool()> check;  // throws, or tells whether the game is at an end
+    bool ended = false;
+    long ends = 0;
+  };
+
   std::vector<const Control*> screens_;
   std::vector<const Control*> counts_;
-  std::array<std::unique_ptr<Invariant>, 6> games_;
+  std::array<Game, 6> games_;
 };
 
 }  // namespace tombolario

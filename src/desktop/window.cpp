@@ -42,7 +42,8 @@ void initialize() {
   [[maybe_unused]] const NoComposing whileItStarts;
   if (SDL_Init(SDL_INIT_VIDEO) != 0) throw std::runtime_error(SDL_GetError());
   // What SDL falls back to where there is no display: a window that nobody sees and nobody can close.
-  if (SDL_GetCurrentVideoDriver() == std::string_view("offscreen")) throw std::runtime_error("non c'è uno schermo");
+  if (SDL_GetCurrentVideoDriver() == std::string_view("offscreen"))
+    throw std::runtime_error("non c'è uno schermo");
 }
 
 bool isMouseButton(const SDL_MouseButtonEvent& event) {
