@@ -109,7 +109,7 @@ class OrdinaryUser {
   bool wasRoot_ = geteuid() == 0;
 };
 
-TEST_F(RecordFileTest, WithoutTheRightToWriteAFileIsReadAndADirectoryKeptAsItIs) {
+TEST_F(RecordFileTest, WithoutTheRightToReadOrToWriteNothingIsHarmed) {
   using std::filesystem::perms;
   ASSERT_TRUE(file.write({99}));
   constexpr auto kRead = perms::owner_read | perms::group_read | perms::others_read;
@@ -124,6 +124,13 @@ TEST_F(RecordFileTest, WithoutTheRightToWriteAFileIsReadAndADirectoryKeptAsItIs)
     EXPECT_EQ(missing.read(1), std::nullopt);
     EXPECT_FALSE(missing.write({5}));
   }
+  std::filesystem::permissions(path, perms::owner_write | perms::others_write);
+  {
+    const OrdinaryUser user;
+    EXPECT_EQ(file.read(1), std::nullopt);
+    EXPECT_FALSE(file.write({5}));
+  }
+  std::filesystem::permissions(path, kRead);
   EXPECT_EQ(file.read(1), 99);
 }
 
