@@ -1,13 +1,12 @@
 #include "shell/cards.hpp"
 
-#include <gtest/gtest.h>
-
 #include <algorithm>
 #include <array>
+#include <numeric>
 #include <set>
 #include <vector>
 
-#include "driver/driver.hpp"
+#include "session.hpp"
 #include "shell/clock_source.hpp"
 
 namespace tombolario {
@@ -19,6 +18,7 @@ struct Deal {
   int first;
   int last;
   std::size_t slots;
+  std::vector<const char*> clicks;  // the last one deals
 
   friend void PrintTo(const Deal& deal, std::ostream* out) { *out << deal.game; }
 };
@@ -26,7 +26,7 @@ struct Deal {
 class EveryDeal : public testing::TestWithParam<Deal> {};
 
 TEST_P(EveryDeal, FillsItsSlotsWithDistinctNumbersAndNoOther) {
-  const auto [game, n, first, last, slots] = GetParam();
+  const auto& [game, n, first, last, slots, clicks] = GetParam();
   ScriptedSource source;
   std::set<std::int16_t> leftOut;
   for (int seed = 0; seed < 500; ++seed) {
@@ -51,11 +51,28 @@ TEST_P(EveryDeal, FillsItsSlotsWithDistinctNumbersAndNoOther) {
   EXPECT_EQ(leftOut.size(), complete ? 0U : static_cast<std::size_t>(n));
 }
 
-INSTANTIATE_TEST_SUITE_P(Games, EveryDeal,
-                         testing::Values(Deal{"videopoker", 53, 0, 51, 53}, Deal{"poker", 52, 0, 50, 52},
-                                         Deal{"ramino", 52, 0, 50, 52}, Deal{"domino", 28, 0, 27, 28},
-                                         Deal{"chain", 12, 1, 7, 8}, Deal{"mahjongg", 120, 0, 119, 120}),
-                         [](const auto& deal) { return deal.param.game; });
+TEST_P(EveryDeal, DrawsANumberForEachOfItsSlots) {
+  const auto& [game, n, first, last, slots, clicks] = GetParam();
+  Session room;
+  room.play({"start"});
+  std::vector<int> numbers(130);
+  std::iota(numbers.begin(), numbers.begin() + n, 0);
+  for (const char* command : clicks) {
+    if (command == clicks.back()) room.queueCards(n, numbers);
+    room.play({command});
+  }
+  EXPECT_EQ(room("queued"), std::to_string(130 - (last - first + 1)));
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Games, EveryDeal,
+    testing::Values(Deal{"videopoker", 53, 0, 51, 53, {"click commpr(2)", "click Command8"}},
+                    Deal{"poker", 52, 0, 50, 52, {"click commpr(1)", "click Command44"}},
+                    Deal{"ramino", 52, 0, 50, 52, {"click commpr(5)", "click GIOCORAM", "click ramesc"}},
+                    Deal{"domino", 28, 0, 27, 28, {"click commpr(3)", "click giocodom", "click FINEDOM"}},
+                    Deal{"chain", 12, 1, 7, 8, {"click commpr(4)", "click INICAT"}},
+                    Deal{"mahjongg", 120, 0, 119, 120, {"click commpr(6)"}}),
+    [](const auto& deal) { return deal.param.game; });
 
 TEST(Mescola, DrawsASlotAgainUntilItsNumberIsFresh) {
   ScriptedSource source;
