@@ -1,198 +1,285 @@
-#include "session.hpp"
+#include <array>
+#include <map>
+#include <optional>
+#include <set>
+
+#include "pictures/catalogue.hpp"
+#include "sanitized.hpp"
+#include "table_test.hpp"
+#include "videopoker_reckoning.hpp"
 
 namespace tombolario {
 namespace {
 
-// Cards by number: 0 to 12 red, 13 to 25 yellow, 26 to 38 cyan, 39 to 51 green, 52 the joker.
-const std::vector<int> kWorthless{0, 14, 29, 44, 22, 8, 33, 50, 3, 24};
-const std::vector<int> kFiveAlike{7, 20, 33, 46, 52, 1, 2, 3, 4, 5};
+namespace reckoning = videopoker::reckoning;
 
-class VideoPokerTable : public testing::Test {
+constexpr std::array kPays{-1, 0, 2, 4, 5, 7, 8, 10, 12, 15, 18};
+
+// A hand of each row, and its replacements. Cards by number: 0 to 12 red, 13 to 25 yellow, 26 to 38 cyan, 39
+// to 51 green, 52 the joker.
+const std::array<std::vector<int>, 11> kHands{{
+    {0, 14, 29, 44, 22, 8, 33, 50, 3, 24},
+    {0, 13, 29, 44, 22, 8, 33, 50, 3, 24},
+    {0, 13, 4, 17, 22, 1, 2, 3, 5, 6},
+    {7, 20, 33, 1, 2, 8, 34, 50, 3, 24},
+    {0, 22, 36, 11, 12, 8, 33, 50, 3, 24},
+    {0, 13, 4, 17, 52, 8, 33, 50, 3, 24},
+    {13, 16, 17, 18, 52, 8, 33, 50, 3, 24},
+    {0, 2, 5, 9, 52, 8, 33, 50, 3, 24},
+    {7, 20, 33, 52, 1, 8, 34, 50, 3, 24},
+    {13, 23, 24, 25, 52, 8, 33, 50, 3, 5},
+    {7, 20, 33, 46, 52, 1, 2, 3, 4, 5},
+}};
+
+/// A game kept by the plain description.
+struct PlainGame {
+  bool onTable = false, summary = false;
+  bool canDeal = true, canChange = true, canLoad = true, refused = false;
+  int balance = 0, start = 0, deals = 0;
+  std::string credit, score, gain;  // as shown
+  std::array<int, 10> cards{};
+  std::set<std::size_t> marked;
+  std::vector<Colour> groups;
+  bool scored = false;
+  int lit = -1;
+
+  void deal(const std::array<int, 10>& dealt) {
+    cards = dealt;
+    marked.clear();
+    scored = false;
+    credit = std::to_string(balance);
+    if (++deals < 10) return;
+    canChange = false;
+    showSummary();
+  }
+  void begin() {
+    balance = start = 10;
+    open();
+  }
+  void load(int stored) {
+    canLoad = stored > 5;
+    if (!canLoad) return;
+    start = stored;
+    balance = stored - 5;
+    open();
+  }
+  void next() {
+    canDeal = false;
+    canChange = true;
+    lit = -1;
+  }
+  void mark(std::size_t i) {
+    if (!scored && marked.erase(i) == 0) marked.insert(i);
+  }
+  void change() {
+    std::size_t replacement = 5;
+    for (const std::size_t i : marked) cards.at(i) = cards.at(replacement++);
+    marked.clear();
+    OfHand<int> five{};
+    std::copy_n(cards.begin(), 5, five.begin());
+    const Hand hand = reckoning::handOf(five);
+    const auto row = reckoning::rowOf(hand);
+    groups.clear();
+    for (int i = 0; i < 5; ++i) {
+      const auto group = reckoning::groupOf(hand, row, i);
+      groups.push_back(group == videopoker::Group::First    ? Colour(0x0000C0)
+                       : group == videopoker::Group::Second ? Colour(0x8080FF)
+                                                            : Colour(SystemColour::Light3d));
+    }
+    lit = row;
+    scored = canDeal = true;
+    canChange = false;
+    balance += kPays.at(row);
+    if (balance > 0) return;
+    canDeal = false;
+    refused = true;
+    credit = "0";
+    showSummary();
+  }
+  void goOn() {
+    deals = 0;
+    canChange = true;
+    refused = balance <= 5;
+    if (refused) return;
+    start = balance;
+    balance -= 5;
+    credit = std::to_string(balance);
+    onTable = canLoad = true;
+    summary = false;
+  }
+  void end() {
+    onTable = summary = canChange = false;
+    lit = -1;
+  }
+
+ private:
+  void open() {
+    onTable = canLoad = canChange = true;
+    summary = canDeal = refused = false;
+    deals = 0;
+    lit = -1;
+  }
+  void showSummary() {
+    onTable = false;
+    summary = true;
+    score = std::to_string(balance);
+    gain = std::to_string(balance - start);
+  }
+};
+
+class VideoPokerTable : public TableTest {
  protected:
-  void startGame(const std::vector<int>& cards = {}) {
-    room("click commpr(2)");
-    deal("click Command8", cards);
-  }
-  void deal(const std::string& command, const std::vector<int>& cards = {}) {
-    if (!cards.empty()) room.queueCards(53, cards);
-    EXPECT_EQ(room(command), "ok");
-  }
-  std::string litRows() {
-    std::string rows;
-    for (int k = 0; k <= 10; ++k) {
-      const std::string row = std::to_string(k);
-      if (room.get("segn(" + row + ")", "Visible") == "1") rows += row + ' ';
+  VideoPokerTable() { room.play({"click commpr(2)"}); }
+
+  std::array<int, 10> seenCards() {
+    std::array<int, 10> cards{};
+    for (int slot = 0; slot < 10; ++slot) {
+      const PictureId& picture = element("Pict", slot).Picture;
+      EXPECT_EQ(picture.store().name, "Picture1");
+      cards.at(static_cast<std::size_t>(slot)) = picture.index();
     }
-    return rows;
+    EXPECT_EQ(std::set<int>(cards.begin(), cards.end()).size(), 10U);
+    return cards;
   }
-  /// Plays hands that change nothing in the balance until the run is over.
-  void finishRun() {
-    while (room("screen") == "Frame3BIS") {
-      if (room.get("Command3", "Enabled") == "1") room.play({"click Command3"});
-      deal("click Command1", {0, 13, 29, 44, 22, 8, 33, 50, 3, 24});  // a pair of aces
+  void expectSeen() {
+    EXPECT_EQ(room("screen"), plain.onTable ? "Frame3BIS" : "Frame3");
+    EXPECT_EQ(control("Framecen").Visible, plain.summary);
+    EXPECT_EQ(control("Command1").Enabled, plain.canDeal);
+    EXPECT_EQ(control("Command3").Enabled, plain.canChange);
+    EXPECT_EQ(control("Command9").Enabled, plain.canLoad);
+    EXPECT_EQ(control("Command4").Enabled, !plain.refused);
+    EXPECT_EQ(control("Command7").Enabled, !plain.refused);
+    EXPECT_EQ(control("Command4").Picture,
+              PictureId(plain.refused ? pictures::CONTPOK2 : pictures::CONTPOK1));
+    EXPECT_EQ(control("Command7").Picture,
+              PictureId(plain.refused ? pictures::SALVPOK2 : pictures::SALVPOK1));
+    EXPECT_EQ(control("Label2").Caption, plain.credit);
+    EXPECT_EQ(control("Label5").Caption, plain.score);
+    EXPECT_EQ(control("Label6").Caption, plain.gain);
+    for (std::size_t i = 0; i < 5; ++i) {
+      EXPECT_EQ(element("Frame1", i).BackColor, plain.scored ? plain.groups.at(i)
+                                                : plain.marked.contains(i)
+                                                    ? Colour(SystemColour::ButtonShadow)
+                                                    : Colour(SystemColour::Light3d));
+      EXPECT_EQ(element("Command2", i).Visible, !plain.scored);
     }
-  }
-  void store(int balance) {
-    const auto word = static_cast<unsigned>(balance);
-    writeFile(file, std::string{static_cast<char>(word & 0xFF), static_cast<char>(word >> 8 & 0xFF)});
+    for (std::size_t slot = 0; slot < 10; ++slot) {
+      const PictureId card(pictures::Picture1, plain.cards.at(slot));
+      EXPECT_EQ(element("Pict", slot).Picture, plain.credit.empty() ? PictureId() : card);
+      EXPECT_EQ(element("Pict", slot).Visible, slot < 5);
+    }
+    for (int row = 0; row < 11; ++row) EXPECT_EQ(element("segn", row).Visible, row == plain.lit) << row;
   }
 
-  Session room;
+  /// The next deal is of these cards, if any.
+  void queue(const std::vector<int>& cards) {
+    if (!cards.empty()) room.queueCards(53, cards);
+  }
+  // The same click in the room and in the reckoning. A click that does nothing is one, too.
+  void begin(const std::vector<int>& cards = {}) {
+    queue(cards);
+    click("Command8");
+    plain.begin();
+    plain.deal(seenCards());
+  }
+  void load(const std::vector<int>& cards = {}) {
+    if (plain.canLoad && stored > 5) queue(cards);
+    click("Command9");
+    if (!plain.canLoad) return;
+    plain.load(stored);
+    if (plain.canLoad) plain.deal(seenCards());
+  }
+  void next(const std::vector<int>& cards = {}) {
+    if (plain.canDeal) queue(cards);
+    click("Command1");
+    if (!plain.canDeal) return;
+    plain.next();
+    plain.deal(seenCards());
+  }
+  void mark(std::size_t i) {
+    click(element("Command2", i));
+    plain.mark(i);
+  }
+  void change() {
+    click("Command3");
+    if (plain.canChange) plain.change();
+  }
+  void goOn() {
+    click("Command4");
+    if (plain.summary && !plain.refused) plain.goOn();
+  }
+  void save() {
+    click("Command7");
+    if (!plain.summary || plain.refused) return;
+    if (plain.balance > 5) stored = plain.balance;
+    plain.refused = plain.balance <= 5;
+  }
+
+  PlainGame plain;
+  int stored = 0;
   std::filesystem::path file = room.data.path() / "videopoker.dat";
 };
 
-TEST_F(VideoPokerTable, ADealShowsItsCardsAndWaitsForMarks) {
-  room.expect({"Label2 Caption=", "Label5 Caption=", "Label6 Caption=", "Pict(0) Picture=none",
-               "Command2(0) MousePointer=0", "Command2(0) MouseIcon=none"});
-  startGame(kWorthless);
-  EXPECT_EQ(room("screen"), "Frame3BIS");
-  for (int i = 0; i < 10; ++i) {
-    const std::string pict = "Pict(" + std::to_string(i) + ")";
-    EXPECT_EQ(room.get(pict, "Picture"),
-              "Picture1(" + std::to_string(kWorthless[static_cast<std::size_t>(i)]) + ")");
-    EXPECT_EQ(room.get(pict, "Visible"), i < 5 ? "1" : "0");
+TEST_F(VideoPokerTable, NothingIsDealtAtTheStart) {
+  expectSeen();
+  room.expect({"Command2(0) MousePointer=0", "Command2(0) MouseIcon=none"});
+  begin();
+  expectSeen();
+  room.expect({"Command2(0) MouseIcon=Label13", "Command2(4) MousePointer=99"});
+}
+
+TEST_F(VideoPokerTable, AnyClickInWholeGamesDoesWhatTheReckoningSays) {
+  constexpr int kSteps = kSanitized ? 4'000 : 40'000;
+  std::map<std::string, int> seen;
+  std::set<int> rows;
+  begin();
+  for (int step = 0; step < kSteps; ++step) {
+    // Now and then a hand that is rare by chance.
+    const auto cards = pick(4) == 0 ? kHands.at(static_cast<std::size_t>(pick(11))) : std::vector<int>{};
+    if (!plain.onTable) {
+      ++seen[!plain.summary       ? "left"
+             : plain.balance <= 0 ? "spent"
+             : plain.refused      ? "refused"
+             : plain.balance == 5 ? "just too little"
+                                  : "going on"];
+      switch (pick(6)) {
+        case 0: save(); break;
+        case 1: load(cards); break;
+        case 2:
+          room.play({"click MENUVP", "click commpr(2)"});
+          plain.summary = false;
+          break;
+        case 3:
+          if (pick(3) == 0) begin(cards);
+          break;
+        default: goOn(); break;
+      }
+    } else {
+      switch (pick(8)) {
+        case 0: change(); break;
+        case 1: next(cards); break;
+        case 2:
+          if (pick(40) != 0) break;
+          click("Command5");
+          plain.end();
+          break;
+        default: mark(static_cast<std::size_t>(pick(5))); break;
+      }
+    }
+    rows.insert(plain.lit);
+    expectSeen();
+    ASSERT_FALSE(HasFailure()) << "step " << step;
   }
-  room.expect({"Command1 Enabled=0", "Command3 Enabled=1", "Frame3 Visible=0", "Framecen Visible=0",
-               "Label2 Caption=10", "Frame1(4) BackColor=3d-light", "Command2(4) Visible=1",
-               "Command2(4) MousePointer=99", "Command2(4) MouseIcon=Label13"});
-  EXPECT_EQ(litRows(), "");
-}
-
-TEST_F(VideoPokerTable, AMarkIsTurnedOverByEachClickAndChangesItsCard) {
-  startGame(kWorthless);
-  room.play({"click Command2(1)", "click Command2(3)", "click Command2(4)", "click Command2(4)"});
-  room.expect({"Frame1(0) BackColor=3d-light", "Frame1(1) BackColor=button-shadow",
-               "Frame1(3) BackColor=button-shadow", "Frame1(4) BackColor=3d-light"});
-  room.play({"click Command3"});
-  room.expect({"Pict(0) Picture=Picture1(0)", "Pict(1) Picture=Picture1(8)", "Pict(2) Picture=Picture1(29)",
-               "Pict(3) Picture=Picture1(33)", "Pict(4) Picture=Picture1(22)",
-               "Pict(5) Picture=Picture1(8)"});
-}
-
-TEST_F(VideoPokerTable, AScoredHandLightsItsRowAndPaysAtTheNextDeal) {
-  startGame({0, 13, 4, 17, 22, 1, 2, 3, 5, 6});
-  room.play({"click Command2(2)", "click Command2(2)", "click Command3"});
-  EXPECT_EQ(litRows(), "2 ");
-  room.expect({"Frame1(0) BackColor=0x0000C0", "Frame1(1) BackColor=0x0000C0", "Frame1(2) BackColor=0x8080FF",
-               "Frame1(3) BackColor=0x8080FF", "Frame1(4) BackColor=3d-light", "Command2(0) Visible=0",
-               "Command3 Enabled=0", "Command1 Enabled=1", "Label2 Caption=10"});
-  room.play({"click Command3"});
-  EXPECT_EQ(litRows(), "2 ") << "a disabled button does nothing";
-  deal("click Command1", kFiveAlike);
-  EXPECT_EQ(litRows(), "");
-  room.expect({"Label2 Caption=12", "Frame1(0) BackColor=3d-light", "Command2(0) Visible=1",
-               "Command1 Enabled=0", "Command3 Enabled=1"});
-  room.play({"click Command3"});
-  EXPECT_EQ(litRows(), "10 ");
-  room.expect({"Frame1(0) BackColor=3d-light"});
-  deal("click Command1", kWorthless);
-  room.expect({"Label2 Caption=30"});
-}
-
-TEST_F(VideoPokerTable, AJokerWithNothingIsAPairWithoutHighlight) {
-  startGame({1, 15, 30, 6, 52, 8, 9, 10, 11, 12});
-  room.play({"click Command3"});
-  EXPECT_EQ(litRows(), "1 ");
-  for (int i = 0; i < 5; ++i) {
-    EXPECT_EQ(room.get("Frame1(" + std::to_string(i) + ")", "BackColor"), "3d-light");
+  EXPECT_EQ(rows.size(), 12U);
+  for (const char* what : {"left", "spent", "refused", "just too little", "going on"}) {
+    EXPECT_GT(seen[what], 0) << what;
   }
-}
-
-TEST_F(VideoPokerTable, TheTenthDealEndsTheRunAndWaitsOnTheHiddenTable) {
-  startGame(kFiveAlike);
-  room.play({"click Command3"});
-  for (int dealt = 2; dealt <= 9; ++dealt) {
-    deal("click Command1", {0, 13, 29, 44, 22, 8, 33, 50, 3, 24});
-    room.play({"click Command3"});
-    ASSERT_EQ(room("screen"), "Frame3BIS") << dealt;
-  }
-  deal("click Command1", kWorthless);
-  EXPECT_EQ(room("screen"), "Frame3");
-  room.expect({"Framecen Visible=1", "Label5 Caption=28", "Label6 Caption=18", "Label2 Caption=28",
-               "Command3 Enabled=0", "Command1 Enabled=0", "Pict(0) Picture=Picture1(0)",
-               "Command2(0) Visible=1", "Command4 Picture=CONTPOK1", "Command7 Picture=SALVPOK1"});
-
-  room.play({"click Command7"});
-  EXPECT_EQ(contentOf(file), std::string("\x1C\0", 2)) << "the balance before the fee";
-  room.play({"click Command4"});
-  EXPECT_EQ(room("screen"), "Frame3BIS");
-  room.expect({"Framecen Visible=0", "Label2 Caption=23", "Command3 Enabled=1", "Command1 Enabled=0",
-               "Pict(0) Picture=Picture1(0)"});
-  finishRun();
-  // The waiting hand was worthless; the fee counts as a loss of this run.
-  room.expect({"Label5 Caption=22", "Label6 Caption=-6"});
-}
-
-TEST_F(VideoPokerTable, ASpentCreditLeavesOnlyNewAndLoadedGames) {
-  startGame(kWorthless);
-  for (int hand = 1; hand <= 9; ++hand) {
-    room.play({"click Command3"});
-    deal("click Command1", kWorthless);
-  }
-  room.play({"click Command4"});  // 1 is left: refused
-  room.expect({"Label5 Caption=1", "Label6 Caption=-9", "Command4 Enabled=0", "Command4 Picture=CONTPOK2",
-               "Command7 Enabled=0", "Command7 Picture=SALVPOK2", "Command3 Enabled=1"});
-  EXPECT_EQ(room("screen"), "Frame3");
-
-  store(6);
-  deal("click Command9", kWorthless);
-  room.expect({"Label2 Caption=1", "Command4 Picture=CONTPOK1", "Command7 Picture=SALVPOK1"});
-  room.play({"click Command3"});
-  EXPECT_EQ(room("screen"), "Frame3");
-  room.expect({"Framecen Visible=1", "Label2 Caption=0", "Label5 Caption=0", "Label6 Caption=-6",
-               "Command4 Enabled=0", "Command4 Picture=CONTPOK2", "Command7 Enabled=0",
-               "Command7 Picture=SALVPOK2", "Command1 Enabled=0", "Command3 Enabled=0"});
-  EXPECT_EQ(litRows(), "0 ");
-
-  deal("click Command8", kWorthless);
-  EXPECT_EQ(litRows(), "");
-  room.expect({"Label2 Caption=10", "Command4 Enabled=1", "Command4 Picture=CONTPOK1", "Command7 Enabled=1",
-               "Command7 Picture=SALVPOK1"});
-}
-
-TEST_F(VideoPokerTable, APairAtABalanceOfOneGoesOn) {
-  store(6);
-  room("click commpr(2)");
-  deal("click Command9", {0, 13, 29, 44, 22, 8, 33, 50, 3, 24});
-  room.play({"click Command3"});
-  EXPECT_EQ(room("screen"), "Frame3BIS");
-  room.expect({"Command1 Enabled=1"});
-}
-
-TEST_F(VideoPokerTable, ABalanceOfFiveIsRefusedAtThePressThatAsks) {
-  store(10);
-  room("click commpr(2)");
-  deal("click Command9", {0, 13, 29, 44, 22, 8, 33, 50, 3, 24});
-  finishRun();
-  room.expect({"Label5 Caption=5", "Command4 Picture=CONTPOK1", "Command7 Enabled=1"});
-  room.play({"click Command7"});
-  room.expect({"Command4 Enabled=0", "Command4 Picture=CONTPOK2", "Command7 Enabled=0",
-               "Command7 Picture=SALVPOK2", "Command3 Enabled=0"});
-  EXPECT_EQ(contentOf(file), std::string("\x0A\0", 2)) << "a refused save touches no file";
-}
-
-TEST_F(VideoPokerTable, EndingAGameKeepsNothingOfIt) {
-  startGame(kFiveAlike);
-  room.play({"click Command3", "click Command5"});
-  EXPECT_EQ(room("screen"), "Frame3");
-  room.expect({"Framecen Visible=0", "Command3 Enabled=0", "Command1 Enabled=1", "Label2 Caption=10"});
-  EXPECT_EQ(litRows(), "");
-  room.play({"click MENUVP", "click commpr(2)"});
-  room.expect({"Framecen Visible=0"});
-}
-
-TEST_F(VideoPokerTable, ASummaryLeftByTheMenuIsGone) {
-  startGame();
-  finishRun();
-  room.play({"click MENUVP"});
-  EXPECT_EQ(room("screen"), "Frameprincipale");
-  room.expect({"Framecen Visible=0"});
 }
 
 struct Stored {
   const char* what;
   std::string content;
-  int balance;  // 0 where the file is refused
+  int balance;  // 0 where there is none
 
   friend void PrintTo(const Stored& stored, std::ostream* out) { *out << stored.what; }
 };
@@ -202,60 +289,45 @@ class StoredGame : public VideoPokerTable, public testing::WithParamInterface<St
 TEST_P(StoredGame, IsLoadedForItsFeeOrRefusedAndNeverChanged) {
   const auto& [what, content, balance] = GetParam();
   writeFile(file, content);
-  room("click commpr(2)");
+  stored = balance;
   for (int times = 0; times < 2; ++times) {
-    room.play({"click Command9"});
-    if (balance == 0) {
-      EXPECT_EQ(room("screen"), "Frame3");
-      room.expect({"Command9 Enabled=0", "Label2 Caption="});
-    } else {
-      EXPECT_EQ(room("screen"), "Frame3BIS");
-      EXPECT_EQ(room.get("Label2", "Caption"), std::to_string(balance));
-      room.play({"click Command5"});
-    }
+    load();
+    expectSeen();
     EXPECT_EQ(contentOf(file), content);
+    if (!plain.onTable) continue;
+    click("Command5");
+    plain.end();
   }
 }
 
 INSTANTIATE_TEST_SUITE_P(
     Files, StoredGame,
     testing::Values(Stored{"empty", "", 0}, Stored{"oneByte", "\x64", 0},
-                    Stored{"five", std::string("\5\0", 2), 0}, Stored{"six", std::string("\6\0", 2), 1},
-                    Stored{"hundred", std::string("\x64\0", 2), 95}, Stored{"negative", "\xFF\xFF", 0},
-                    Stored{"long", std::string("\x64\0", 2) + std::string(998, '\xAA'), 95}),
+                    Stored{"five", std::string("\5\0", 2), 5}, Stored{"six", std::string("\6\0", 2), 6},
+                    Stored{"large", "\xFF\x7F", 32767}, Stored{"negative", "\xFF\xFF", -1},
+                    Stored{"long", std::string("\x64\0", 2) + std::string(998, '\xAA'), 100}),
     [](const auto& stored) { return stored.param.what; });
 
-TEST_F(VideoPokerTable, AMissingFileIsMadeAndRefusedUntilAGameBegins) {
-  room("click commpr(2)");
-  room.play({"click Command9"});
-  EXPECT_TRUE(std::filesystem::exists(file));
+TEST_F(VideoPokerTable, AFileIsMadeADirectoryStaysAndALongFileKeepsItsRest) {
+  load();
+  EXPECT_TRUE(std::filesystem::is_regular_file(file));
   EXPECT_EQ(contentOf(file), "");
-  room.expect({"Command9 Enabled=0"});
-  room.play({"click Command8", "click Command5"});
-  room.expect({"Command9 Enabled=1"});
-}
-
-TEST_F(VideoPokerTable, ADirectoryInPlaceOfTheFileHarmsNothing) {
+  EXPECT_EQ(plain.canLoad, false);
+  begin(kHands[10]);
+  while (plain.onTable) {
+    change();
+    next(kHands[1]);
+  }
+  expectSeen();
+  std::filesystem::remove(file);
   std::filesystem::create_directory(file);
-  room("click commpr(2)");
-  room.play({"click Command9"});
-  room.expect({"Command9 Enabled=0"});
-  room.play({"click Command8"});
-  finishRun();
-  room.play({"click Command7"});
-  room.expect({"Command7 Enabled=1", "Command7 Picture=SALVPOK1"});
+  save();
+  expectSeen();
   EXPECT_TRUE(std::filesystem::is_directory(file));
-}
-
-TEST_F(VideoPokerTable, ASaveLeavesTheRestOfALongFile) {
-  std::string content(1000, '\xAA');
-  writeFile(file, content);
-  startGame(kFiveAlike);
-  finishRun();
-  room.play({"click Command7"});
-  content[0] = '\x1C';
-  content[1] = '\0';
-  EXPECT_EQ(contentOf(file), content);
+  std::filesystem::remove(file);
+  writeFile(file, std::string(1000, '\xAA'));
+  save();
+  EXPECT_EQ(contentOf(file), std::string("\x1C\0", 2) + std::string(998, '\xAA'));
 }
 
 }  // namespace
