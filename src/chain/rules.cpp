@@ -41,7 +41,6 @@ int State::links() const {
 
 void Chain::avviocatena(UniformSource& uniform) {
   s_.scambicat = 0;
-  s_.canSubstitute = s_.canExchange = true;
   s_.segnacat = s_.scambiocat = {};
   uniform.seedFromClock();
   mescola(uniform, s_.pescatecat, 0, kDrawn - 1, kChainTiles);
@@ -67,11 +66,10 @@ bool Chain::substitute() {
     if (s_.segnacat[position]) s_.pescatecat[position] = s_.pescatecat[reserve++];
   }
   s_.segnacat = {};
-  s_.canSubstitute = false;
   return true;
 }
 
-bool Chain::exchange(Mode mode) {
+bool Chain::exchange() {
   if (s_.toExchange() < kMostToExchange) return false;
   int first = 1;
   while (!s_.scambiocat[first]) ++first;
@@ -80,9 +78,10 @@ bool Chain::exchange(Mode mode) {
   std::swap(s_.pescatecat[first], s_.pescatecat[second]);
   s_.scambiocat = {};
   ++s_.scambicat;
-  s_.canExchange = s_.scambicat < mostExchanges(mode);
   return true;
 }
+
+bool Chain::exchangesLeft(Mode mode) const { return s_.scambicat < mostExchanges(mode); }
 
 bool Chain::endHand() {
   const int links = s_.links();

@@ -27,8 +27,6 @@ struct State {
   OfRow<bool> segnacat{};           ///< marked for substitution
   OfRow<bool> scambiocat{};         ///< marked for exchange
   int scambicat = 0;                ///< exchanges carried out
-  bool canSubstitute = true;
-  bool canExchange = true;
 
   std::int16_t puntcat = 0;   ///< the score
   std::int16_t livcat = 1;    ///< the level
@@ -55,7 +53,9 @@ class Chain {
   /// Gives the marked positions the reserve tiles, from left to right. False, and nothing, without a mark.
   bool substitute();
   /// Exchanges the two marked positions. False, and nothing, with fewer.
-  bool exchange(Mode mode);
+  bool exchange();
+  /// Whether the hand allows another exchange.
+  bool exchangesLeft(Mode mode) const;
   /// Counts the hand. True if the level is over.
   bool endHand();
 

@@ -123,12 +123,12 @@ void Table::Comscam_Click(int position) {
 
 /// "SCAMBIA": the marked tiles change places.
 void Table::SCAMBIA_Click() {
-  if (!game_.exchange(mode())) return;
+  if (!game_.exchange()) return;
   SCALABELCAT.Caption = std::to_string(game_.state().scambicat);
   showMarks();
   for (int position = 1; position <= kRow; ++position) showTile(position);
   showLinks();
-  if (game_.state().canExchange) {
+  if (game_.exchangesLeft(mode())) {
     SCAMBIA.Picture = pictures::SC1;
     return;
   }
