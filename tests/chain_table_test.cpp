@@ -144,6 +144,7 @@ class ChainTable : public TableTest {
     EXPECT_EQ(control(plainRoom).Visible, true);
     for (int i = 1; i <= 5; ++i) {
       EXPECT_EQ(element("pictca", i).Picture.get().index(), plain.tile.at(static_cast<std::size_t>(i)));
+      EXPECT_TRUE(element("pictca", i).Visible);
       EXPECT_EQ(element("Sh", i).FillColor,
                 plain.toSubstitute.contains(i) ? Colour(0xFFFF80) : Colour(SystemColour::ActiveBorder));
       EXPECT_EQ(element("Sh", i).BorderColor, Colour(plain.toExchange.contains(i) ? kRed : kBlack));
