@@ -136,6 +136,17 @@ class MahjonggTable : public TableTest {
     click("ELPEDMAH");
     plain.remove();
   }
+  /// The search lights the tiles like the selected one for as long as it is held.
+  void search(MouseButton button) {
+    std::optional<int> kind;
+    if (plain.selected.size() == 1) kind = plain.kind.at(plain.selected[0]);
+    press(middleOf(control("CERPEDMAH")), button);
+    expectSeen(kind);
+    form().mouseMove(middleOf(element("Commah", 1)));
+    expectSeen(kind);
+    form().mouseUp(button);
+    expectSeen();
+  }
   void takeAway(int first, int second) {
     clickCell(first);
     clickCell(second);
@@ -204,6 +215,7 @@ TEST_F(MahjonggTable, EachWayInLaysAnotherBoard) {
 
 TEST_F(MahjonggTable, AnyClickOnManyBoardsDoesWhatTheReckoningSays) {
   constexpr int kBoards = kSanitized ? 30 : 1000;
+  constexpr std::array kButtons{MouseButton::Left, MouseButton::Right, MouseButton::Middle};
   room.play({"click commpr(6)"});
   int removed = 0;
   for (int board = 0; board < kBoards; ++board) {
@@ -228,6 +240,7 @@ TEST_F(MahjonggTable, AnyClickOnManyBoardsDoesWhatTheReckoningSays) {
       }
       removed += plain.kind.size() < before;
       expectSeen();
+      if (pick(20) == 0) search(kButtons.at(static_cast<std::size_t>(pick(3))));
       ASSERT_FALSE(HasFailure()) << "board " << board << ", click " << clicks;
     }
   }
@@ -265,26 +278,6 @@ TEST_F(MahjonggTable, NeighboursOverlapAndTheLaterOneLiesOnTop) {
   click(lower.origin() + Point{400, -1});
   plain.click(1);
   expectSeen();
-}
-
-TEST_F(MahjonggTable, TheSearchLightsLikeTilesForAsLongAsItIsHeld) {
-  room.play({"click commpr(6)"});
-  readBoard();
-  click("CERPEDMAH");  // nothing is selected
-  expectSeen();
-  for (const MouseButton button : {MouseButton::Left, MouseButton::Right, MouseButton::Middle}) {
-    const int cell = plain.choices().at(static_cast<std::size_t>(pick(plain.choices().size())));
-    clickCell(cell);
-    const int kind = plain.kind.at(cell);
-    press(middleOf(control("CERPEDMAH")), button);
-    expectSeen(kind);
-    form().mouseMove(middleOf(element("Commah", 1)));
-    expectSeen(kind);
-    form().mouseUp(button);
-    expectSeen();
-    clickCell(cell);
-    expectSeen();
-  }
 }
 
 }  // namespace
