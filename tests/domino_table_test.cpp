@@ -262,10 +262,11 @@ class DominoTable : public TableTest {
 
 TEST_F(DominoTable, AGameStandsReadyFromTheStart) {
   room.expect({"Opdom1 Value=1", "Opdom2 Value=0", "Opdom3 Value=0", "Opdom4 Value=1", "scoredom1 Caption=0",
-               "NUOVAPARDOM Visible=0", "FINEDOM BackColor=0xFFFF80", "VISUAL(30) Visible=1",
-               "HScrolldom Min=30", "HScrolldom Max=30", "HScrolldom Value=30", "HScrolldom MouseIcon=Label4",
-               "LEF(14) MouseIcon=Label13", "Opdom3 MouseIcon=Label9", "domin(0) Visible=0",
-               "domin(15) Visible=0", "domin(56) Picture=domin(56)", "domin(56) Visible=0"});
+               "scoredom2 Caption=0", "NUOVAPARDOM Visible=0", "FINEDOM BackColor=0xFFFF80",
+               "VISUAL(30) Visible=1", "HScrolldom Min=30", "HScrolldom Max=30", "HScrolldom Value=30",
+               "HScrolldom MouseIcon=Label4", "LEF(14) MouseIcon=Label13", "Opdom3 MouseIcon=Label9",
+               "domin(0) Visible=0", "domin(15) Visible=0", "domin(56) Picture=domin(56)",
+               "domin(56) Visible=0"});
   const std::array widths{1380, 1370, 1375, 1385, 1390, 1383, 1377};
   const std::array heights{780, 779, 781, 778, 782, 777, 783};
   open(false, true);
