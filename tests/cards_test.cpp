@@ -1,13 +1,20 @@
 #include "shell/cards.hpp"
 
+#include <gtest/gtest.h>
+
 #include <algorithm>
 #include <array>
-#include <numeric>
 #include <set>
 #include <vector>
 
-#include "session.hpp"
+#include "chain/rules.hpp"
+#include "domino/rules.hpp"
+#include "driver/driver.hpp"
+#include "mahjongg/rules.hpp"
+#include "poker/rules.hpp"
+#include "ramino/rules.hpp"
 #include "shell/clock_source.hpp"
+#include "videopoker/rules.hpp"
 
 namespace tombolario {
 namespace {
@@ -18,7 +25,7 @@ struct Deal {
   int first;
   int last;
   std::size_t slots;
-  std::vector<const char*> clicks;  // the last one deals
+  void (*run)(UniformSource&);
 
   friend void PrintTo(const Deal& deal, std::ostream* out) { *out << deal.game; }
 };
@@ -26,7 +33,7 @@ struct Deal {
 class EveryDeal : public testing::TestWithParam<Deal> {};
 
 TEST_P(EveryDeal, FillsItsSlotsWithDistinctNumbersAndNoOther) {
-  const auto& [game, n, first, last, slots, clicks] = GetParam();
+  const auto& [game, n, first, last, slots, run] = GetParam();
   ScriptedSource source;
   std::set<std::int16_t> leftOut;
   for (int seed = 0; seed < 500; ++seed) {
@@ -51,27 +58,37 @@ TEST_P(EveryDeal, FillsItsSlotsWithDistinctNumbersAndNoOther) {
   EXPECT_EQ(leftOut.size(), complete ? 0U : static_cast<std::size_t>(n));
 }
 
-TEST_P(EveryDeal, DrawsANumberForEachOfItsSlots) {
-  const auto& [game, n, first, last, slots, clicks] = GetParam();
-  Session room;
-  room.play({"start"});
-  std::vector<int> numbers(130);
-  std::iota(numbers.begin(), numbers.begin() + n, 0);
-  for (const char* command : clicks) {
-    if (command == clicks.back()) room.queueCards(n, numbers);
-    room.play({command});
-  }
-  EXPECT_EQ(room("queued"), std::to_string(130 - (last - first + 1)));
+/// Numbers that are all different, as long as there are any.
+class CountedSource : public UniformSource {
+ public:
+  explicit CountedSource(int n) : n_(n) {}
+  void seedFromClock() override { ++(draws == 0 ? seeds : lateSeeds); }
+  double next() override { return (draws++ % n_ + 0.5) / n_; }
+
+  int draws = 0, seeds = 0, lateSeeds = 0;
+
+ private:
+  int n_;
+};
+
+TEST_P(EveryDeal, IsSeededOnceAndThenDrawsANumberForEachOfItsSlots) {
+  const auto& [game, n, first, last, slots, run] = GetParam();
+  CountedSource source(n);
+  run(source);
+  EXPECT_EQ(source.seeds, 1);
+  EXPECT_EQ(source.lateSeeds, 0);
+  EXPECT_EQ(source.draws, last - first + 1);
 }
 
 INSTANTIATE_TEST_SUITE_P(
     Games, EveryDeal,
-    testing::Values(Deal{"videopoker", 53, 0, 51, 53, {"click commpr(2)", "click Command8"}},
-                    Deal{"poker", 52, 0, 50, 52, {"click commpr(1)", "click Command44"}},
-                    Deal{"ramino", 52, 0, 50, 52, {"click commpr(5)", "click GIOCORAM", "click ramesc"}},
-                    Deal{"domino", 28, 0, 27, 28, {"click commpr(3)", "click giocodom", "click FINEDOM"}},
-                    Deal{"chain", 12, 1, 7, 8, {"click commpr(4)", "click INICAT"}},
-                    Deal{"mahjongg", 120, 0, 119, 120, {"click commpr(6)"}}),
+    testing::Values(
+        Deal{"videopoker", 53, 0, 51, 53, [](UniformSource& u) { videopoker::VideoPoker().avvioVIDEO(u); }},
+        Deal{"poker", 52, 0, 50, 52, [](UniformSource& u) { poker::Poker().avvioPOKER(u); }},
+        Deal{"ramino", 52, 0, 50, 52, [](UniformSource& u) { ramino::Ramino().avvioRAM(u); }},
+        Deal{"domino", 28, 0, 27, 28, [](UniformSource& u) { domino::Domino().inizioDOMINO(u); }},
+        Deal{"chain", 12, 1, 7, 8, [](UniformSource& u) { chain::Chain().avviocatena(u); }},
+        Deal{"mahjongg", 120, 0, 119, 120, [](UniformSource& u) { mahjongg::Mahjongg().avvioMAH(u); }}),
     [](const auto& deal) { return deal.param.game; });
 
 TEST(Mescola, DrawsASlotAgainUntilItsNumberIsFresh) {

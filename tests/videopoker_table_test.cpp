@@ -229,13 +229,13 @@ TEST_F(VideoPokerTable, NothingIsDealtAtTheStart) {
 }
 
 TEST_F(VideoPokerTable, AnyClickInWholeGamesDoesWhatTheReckoningSays) {
-  constexpr int kSteps = kSanitized ? 4'000 : 40'000;
+  constexpr int kSteps = kSanitized ? 20'000 : 40'000;
   std::map<std::string, int> seen;
   std::set<int> rows;
   begin();
   for (int step = 0; step < kSteps; ++step) {
     // Now and then a hand that is rare by chance.
-    const auto cards = pick(4) == 0 ? kHands.at(static_cast<std::size_t>(pick(11))) : std::vector<int>{};
+    const auto cards = pick(8) == 0 ? kHands.at(static_cast<std::size_t>(pick(11))) : std::vector<int>{};
     if (!plain.onTable) {
       ++seen[!plain.summary       ? "left"
              : plain.balance <= 0 ? "spent"
@@ -244,7 +244,14 @@ TEST_F(VideoPokerTable, AnyClickInWholeGamesDoesWhatTheReckoningSays) {
                                   : "going on"];
       switch (pick(6)) {
         case 0: save(); break;
-        case 1: load(cards); break;
+        case 1:
+          if (pick(3) == 0) {
+            std::filesystem::remove(file);
+            stored = 0;
+          }
+          load(cards);
+          seen["refused a game"] += !plain.canLoad && plain.summary;
+          break;
         case 2:
           room.play({"click MENUVP", "click commpr(2)"});
           plain.summary = false;
@@ -256,9 +263,11 @@ TEST_F(VideoPokerTable, AnyClickInWholeGamesDoesWhatTheReckoningSays) {
       }
     } else {
       switch (pick(8)) {
-        case 0: change(); break;
-        case 1: next(cards); break;
+        case 0:
+        case 1: change(); break;
         case 2:
+        case 3: next(cards); break;
+        case 4:
           if (pick(40) != 0) break;
           click("Command5");
           plain.end();
@@ -271,7 +280,7 @@ TEST_F(VideoPokerTable, AnyClickInWholeGamesDoesWhatTheReckoningSays) {
     ASSERT_FALSE(HasFailure()) << "step " << step;
   }
   EXPECT_EQ(rows.size(), 12U);
-  for (const char* what : {"left", "spent", "refused", "just too little", "going on"}) {
+  for (const char* what : {"left", "spent", "refused", "just too little", "going on", "refused a game"}) {
     EXPECT_GT(seen[what], 0) << what;
   }
 }
