@@ -3,6 +3,7 @@
 #include "pictures/catalogue.hpp"
 #include "session.hpp"
 #include "shell/caption.hpp"
+#include "shell/controls.hpp"
 
 namespace tombolario {
 namespace {
@@ -94,6 +95,20 @@ TEST(Captions, BreakAtTheirBlanksWhereTheBoxIsTallEnough) {
   EXPECT_EQ(linesSeen("CAMBIA CARTE", {150, 33}), 1);
   EXPECT_EQ(linesSeen("CAMBIA TUTTE CARTE", {65, 60}), 3);
   EXPECT_EQ(linesSeen("CAMBIACARTE", {65, 60}), 1);
+}
+
+TEST(Buttons, OnlyThatOfAPictureFadesWithItsGroundWhereItIsDisabled) {
+  const auto ground = [](const PictureId& picture, bool enabled) {
+    Form form("Form1", {0, 0, 3000, 750}, kBlack, "");
+    Button button(form, "button", {0, 0, 3000, 750}, "", {.back = kRed, .picture = picture});
+    button.Enabled = enabled;
+    Canvas canvas({200, 50}, 1);
+    form.repaint(canvas.painter);
+    return canvas.pixel(8, 8);
+  };
+  EXPECT_EQ(ground(pictures::SALVACAT, true), 0xFF0000U);
+  EXPECT_EQ(ground({}, false), 0xFF0000U);
+  EXPECT_NE(ground(pictures::SALVACAT, false), 0xFF0000U);
 }
 
 TEST(CairoCamera, WritesTheWindowAndEachPictureAtTheScale) {
