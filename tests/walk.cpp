@@ -103,6 +103,7 @@ void Walk::release(MouseButton button) {
   done();
 }
 
+/// Now and then the left button stays down.
 void Walk::click(Point point) {
   move(point);
   press(MouseButton::Left);

@@ -1,7 +1,6 @@
 #pragma once
 
 #include <filesystem>
-#include <map>
 
 #include "shell/data_directory.hpp"
 #include "shell/form.hpp"
