@@ -56,6 +56,15 @@ TEST_F(MainMenuTest, EveryScreenIsReachedAndLeft) {
   }
 }
 
+TEST_F(MainMenuTest, EveryScreenHasItsSize) {
+  room.expect({"LPOKER Width=12015", "LCATENA Width=12120", "Label10 Width=12120", "LVIDPOK Width=12120"});
+  for (const char* screen : kScreens) {
+    const std::string name = screen;
+    EXPECT_EQ(room.get(name, "Width"), name == "Frame2" ? "12000" : name == "Frame2BIS" ? "12120" : "12015");
+    EXPECT_EQ(room.get(name, "Height"), name == "Frame2" ? "8775" : "8655") << name;
+  }
+}
+
 TEST_F(MainMenuTest, OnlyTheButtonUnderTheMouseTakesTheHoverColour) {
   room.play({"over commpr(2)"});
   EXPECT_EQ(hovered(), "commpr(2) ");

@@ -21,8 +21,8 @@ class Table {
   Form& form;
 
   // clang-format off
-  Frame Frame2{form, "Frame2", kFullSize, screenLook(kCyan)};
-  Label LPOKER{Frame2, "LPOKER", kTitleBar, "POKER", stripLook(kYellow, kBlue)};
+  Frame Frame2{form, "Frame2", {0, 0, 12000, 8775}, screenLook(kCyan)};
+  Label LPOKER{Frame2, "LPOKER", {0, 0, 12015, 375}, "POKER", stripLook(kYellow, kBlue)};
   Frame Framepun{Frame2, "Framepun", {720, 1560, 3375, 2895}, groupLook(), "TIPI DI PUNTEGGIO"};
   OptionButton Op1{Framepun, "Op1", {480, 960, 2415, 375}, "Per mano", false, optionLook()};
   OptionButton Op2{Framepun, "Op2", {480, 1560, 2415, 375}, "Per configurazione", true, optionLook()};
@@ -35,7 +35,7 @@ class Table {
   Button menupok{Frame2, "menupok", {4320, 5160, 3375, 495}, "MENU'", buttonLook(0xFF8080)};
   Button Command44{Frame2, "Command44", {4320, 5640, 3375, 495}, "GIOCO", buttonLook(kYellow)};
 
-  Frame Frame2BIS{form, "Frame2BIS", kFullSize, screenLook(kWhite)};
+  Frame Frame2BIS{form, "Frame2BIS", {0, 0, 12120, 8655}, screenLook(kWhite)};
   // 0 to 4 are the player's, 5 to 9 the computer's.
   ControlArray<Frame, 0, 9> Frame11{[this](int i) {
     const bool player = i < kHandSize;

@@ -4,8 +4,8 @@
 
 namespace tombolario {
 
-/// The place of a full-size screen; it reaches a little over the edge of the window.
-inline constexpr Box kFullSize{0, 0, 12120, 8655};
+/// The place of nearly every full-size screen; it reaches a little over the edge of the window.
+inline constexpr Box kFullSize{0, 0, 12015, 8655};
 
 inline constexpr Font kTitleFont{.face = Face::Heavy, .points = 12};
 inline constexpr Font kButtonFont{.points = 9.75, .bold = true};
