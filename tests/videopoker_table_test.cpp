@@ -34,7 +34,7 @@ const std::array<std::vector<int>, 11> kHands{{
 /// A game kept by the plain description.
 struct PlainGame {
   bool onTable = false, summary = false;
-  bool canDeal = true, canChange = true, canLoad = true, refused = false;
+  bool canDeal = false, canChange = false, canLoad = true, refused = false;
   int balance = 0, start = 0, deals = 0;
   std::string credit, score, gain;  // as shown
   std::array<int, 10> cards{};

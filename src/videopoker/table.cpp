@@ -15,6 +15,8 @@ constexpr Colour kSecondGroup = 0x8080FF;
 }  // namespace
 
 Table::Table(Form& owner, Host& host) : form(owner), host_(host) {
+  Command1.Enabled = false;
+  Command3.Enabled = false;
   for (int i = 0; i < kHandSize; ++i) Command2[i].onClick = [this, i] { toggleMark(Frame1[i]); };
   Command1.onClick = [this] { Command1_Click(); };
   Command3.onClick = [this] { Command3_Click(); };
