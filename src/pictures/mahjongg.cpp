@@ -66,10 +66,12 @@ void numeral(Painter& painter) {
   painter.text(kAll, digit, lettering(11), kWhite, Align::Centre);
 }
 
-template <Rgb kField, Rgb kFigure>
+template <Rgb kField, Rgb kFigure, int kHeight = kSize.height>
 void lozenge(Painter& painter) {
-  painter.fillRect(kAll, kField);
-  painter.fillPolygon(std::array<Vec, 4>{Vec{16, 1}, Vec{30, 10}, Vec{16, 19}, Vec{2, 10}}, kFigure);
+  constexpr double kHalf = kHeight / 2.0;
+  painter.fillRect({0, 0, kSize.width, kHeight}, kField);
+  painter.fillPolygon(std::array<Vec, 4>{Vec{16, 1}, Vec{30, kHalf}, Vec{16, kHeight - 1}, Vec{2, kHalf}},
+                      kFigure);
 }
 
 template <Rgb... kColours>
@@ -194,7 +196,7 @@ void ring(Painter& painter) {
   painter.fillRect({13, 9.5, 6, 4.5}, kBlack);
 }
 
-/// By kind.
+/// By kind, at the size of the bench.
 constexpr Slots<Design, 0, kKinds - 1> kDesigns{
     ring,
     sun,
@@ -232,23 +234,35 @@ constexpr Slots<Design, 0, kKinds - 1> kDesigns{
 constexpr int kindOfBench(int index) { return index < 5 ? index : 33 - index; }
 
 /// A thin edge holds a design together on a ground of its own colour.
-void drawKind(Painter& painter, int kind) {
-  kDesigns[kind](painter);
-  painter.outlineRect(kAll, 0x404040, 1);
+void drawDesign(Painter& painter, Design design, Size size) {
+  design(painter);
+  painter.outlineRect({0, 0, static_cast<double>(size.width), static_cast<double>(size.height)}, 0x404040, 1);
 }
 
-constexpr Size sizeOfAll(int) { return kSize; }
+constexpr Size sizeOfBench(int) { return kSize; }
+
+void drawBench(Painter& painter, int kind) { drawDesign(painter, kDesigns[kind], kSize); }
+
+/// One kind is a pixel higher on the board than on the bench.
+constexpr int kHighKind = 10;
+constexpr Size kHighSize{kSize.width, kSize.height + 1};
+
+constexpr Size sizeOfPiece(int piece) { return kindOfPiece(piece) == kHighKind ? kHighSize : kSize; }
+
+void drawPiece(Painter& painter, int piece) {
+  const int kind = kindOfPiece(piece);
+  if (kind != kHighKind) return drawBench(painter, kind);
+  drawDesign(painter, lozenge<kWhite, kRed, kHighSize.height>, kHighSize);
+}
 
 }  // namespace
 
-constinit const PictureStore PICMAH{
-    "PICMAH", 0,         kPieces,
-    true,     sizeOfAll, [](Painter& painter, int piece) { drawKind(painter, kindOfPiece(piece)); }};
+constinit const PictureStore PICMAH{"PICMAH", 0, kPieces, true, sizeOfPiece, drawPiece};
 constinit const PictureStore IImAH{
-    "IImAH", 0,         kKinds - 1,
-    true,    sizeOfAll, [](Painter& painter, int index) { drawKind(painter, kindOfBench(index)); }};
+    "IImAH", 0,           kKinds - 1,
+    true,    sizeOfBench, [](Painter& painter, int index) { drawBench(painter, kindOfBench(index)); }};
 constinit const PictureStore ImAH{
-    "ImAH", 0, 1, false, sizeOfAll, [](Painter& painter, int) { drawKind(painter, kKinds - 1); }};
+    "ImAH", 0, 1, false, sizeOfBench, [](Painter& painter, int) { drawBench(painter, kKinds - 1); }};
 constinit const PictureStore ELPEDMAH = plateStore<"ELIMINA PEDINE", Size{117, 13}, kWhite, kRed>("ELPEDMAH");
 constinit const PictureStore CERPEDMAH =
     plateStore<"CERCA PEDINE", Size{108, 13}, kWhite, kBlue>("CERPEDMAH");
