@@ -76,12 +76,13 @@ TEST_F(FormTest, OnlyTheLeftButtonClicksAndAllAreHeardDownAndUp) {
   press(kOnFirst, MouseButton::Right);
   release(kOnSecond, MouseButton::Right);
   EXPECT_EQ(taken(), "down(first*) up(first*) ") << "captured";
-  press(kOnFirst, MouseButton::Middle);
-  release(kOnFirst, MouseButton::Middle);
-  EXPECT_EQ(taken(), "down(first*) up(first*) ");
+  for (const MouseButton button : {MouseButton::Middle, MouseButton::Back, MouseButton::Forward}) {
+    press(kOnFirst, button);
+    release(kOnFirst, button);
+    EXPECT_EQ(taken(), "down(first*) up(first*) ");
+  }
   press(kOnFirst);
   press(kOnSecond, MouseButton::Right);
-  form.mouseDown(MouseButton::Right);
   release(kOnFirst);
   release(kOnSecond, MouseButton::Right);
   EXPECT_EQ(taken(), "down(first) down(first*) up(first) first up(first*) ");
@@ -119,7 +120,7 @@ TEST_F(FormTest, AHiddenControlIsNotThereAndAShapeLetsTheMouseThrough) {
   EXPECT_EQ(taken(), "first ");
 }
 
-TEST_F(FormTest, APressThatChangesTheScreenKeepsTheMouse) {
+TEST_F(FormTest, APressThatHidesItsControlKeepsNothing) {
   Frame other{form, "other", {0, 0, 3000, 2000}, {.visible = false}};
   Button below{other, "below", {100, 100, 500, 300}, "", {}};
   below.onClick = [this] { log += "below "; };
@@ -135,6 +136,33 @@ TEST_F(FormTest, APressThatChangesTheScreenKeepsTheMouse) {
   press(kOnFirst);
   release(kOnFirst);
   EXPECT_EQ(taken(), "below ");
+  other.Visible = false;
+  ground.Visible = true;
+  press(kOnFirst);
+  taken();
+  press({210, 210});
+  release(kOnFirst);
+  EXPECT_EQ(taken(), "below ") << "also where the release never came";
+}
+
+TEST_F(FormTest, APressWhoseReleaseNeverCameEndsWithTheNextOne) {
+  quiet = false;
+  press(kOnFirst);
+  press(kOnFirst);
+  release(kOnFirst);
+  EXPECT_EQ(taken(), "down(first) up(first) down(first) up(first) first ");
+  press(kOnFirst);
+  press(kOnSecond);
+  EXPECT_TRUE(form.holdsDown(second));
+  release(kOnSecond);
+  EXPECT_EQ(taken(), "down(first) up(first) down(second) up(second) second ");
+}
+
+TEST_F(FormTest, AroundTheRoomTheScreenInSightGoesOn) {
+  Frame other{form, "other", {0, 0, 3000, 2000}, {.back = kRed, .visible = false}};
+  EXPECT_EQ(form.surroundings(), classicPalette(SystemColour::ButtonFace));
+  other.Visible = true;
+  EXPECT_EQ(form.surroundings(), kRed);
 }
 
 TEST_F(FormTest, MovesGoToTheTopmostControlInItsOwnCoordinates) {

@@ -1,4 +1,5 @@
 #include "session.hpp"
+#include "shell/view.hpp"
 
 namespace tombolario {
 namespace {
@@ -116,6 +117,24 @@ TEST_F(MainMenuTest, TheLinksGoToTheDesktopAtAPressOfAnyButton) {
   EXPECT_EQ(room("links"), "https://www.tombolario.example/ https://www.tombolario.example/");
   EXPECT_EQ(room("links"), "none");
   EXPECT_EQ(room("screen"), "Frameprincipale");
+  room.play({"over CLINK(2)", "down", "click commpr(2)"});  // the browser has had the release
+  EXPECT_EQ(room("screen"), "Frame3");
+}
+
+TEST_F(MainMenuTest, AReleaseWithoutAMoveLeavesALinkAtRest) {
+  Form& form = room.driver.form();
+  View view(form);
+  view.fit(1000, 600);
+  room.play({"start"});
+  const double x = view.marginX() + 500.0 * view.scale(), y = 460 * view.scale();
+  view.mouseAt(x, y);
+  EXPECT_EQ(hovered(), "CLINK(1) ");
+  form.mouseDown(MouseButton::Left);
+  view.mouseAt(x, y);
+  form.mouseUp(MouseButton::Left);
+  EXPECT_EQ(hovered(), "");
+  view.mouseAt(x + 1, y);
+  EXPECT_EQ(hovered(), "CLINK(1) ");
 }
 
 TEST_F(MainMenuTest, LeavingTheChainGameDisablesItsWayOn) {

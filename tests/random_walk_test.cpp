@@ -17,7 +17,7 @@ TEST_P(RandomWalk, NeverLeavesTheRulesOfTheRoom) {
   walk.enter(GetParam());
   ASSERT_NO_THROW(walk.play()) << "after " << walk.events() << " events";
   EXPECT_GT(walk.events(), 150'000);
-  EXPECT_GE(walk.invariants().ends(GetParam()), 10) << "the walk should get somewhere";
+  EXPECT_GE(walk.invariants().ends(GetParam()), 4) << "the walk should get somewhere";
 }
 
 INSTANTIATE_TEST_SUITE_P(Games, RandomWalk, testing::Range(1, 7));

@@ -80,7 +80,7 @@ void Walk::useScrollBar() {
 
 /// The window has another size, and is drawn.
 void Walk::resize() {
-  view_ = Viewport::fit(form_, 300 + pick(3000), 200 + pick(2000));
+  view_.fit(300 + pick(3000), 200 + pick(2000));
   NullPainter painter;
   form_.repaint(painter);
   require(!form_.needsDrawing(), "drawing changes what is drawn");
@@ -88,8 +88,8 @@ void Walk::resize() {
 
 /// Through the pixels of the window, as the mouse comes.
 void Walk::move(Point point) {
-  const auto pixel = [this](int twips) { return std::round(twips * view_.scale / kTwipsPerPixel); };
-  form_.mouseMove(view_.place(pixel(point.x) + view_.marginX, pixel(point.y) + view_.marginY));
+  const auto pixel = [this](int twips) { return std::round(twips * view_.scale() / kTwipsPerPixel); };
+  view_.mouseAt(pixel(point.x) + view_.marginX(), pixel(point.y) + view_.marginY());
   done();
 }
 

@@ -1,12 +1,13 @@
 #pragma once
 
+#include <algorithm>
 #include <array>
 #include <cstdint>
 #include <span>
 
 #include "driver/driver.hpp"
 #include "invariants.hpp"
-#include "shell/viewport.hpp"
+#include "shell/view.hpp"
 #include "watched_files.hpp"
 
 namespace tombolario {
@@ -32,7 +33,8 @@ class Walk {
  private:
   /// A number of 0 to n - 1.
   int pick(int n);
-  MouseButton anyButton() { return static_cast<MouseButton>(pick(3)); }
+  /// The left one more often than the other four.
+  MouseButton anyButton() { return static_cast<MouseButton>(std::max(0, pick(8) - 3)); }
   Point anyPlace() { return {pick(12400) - 250, pick(9000) - 200}; }
   Point middleOfSomething();
   Point placeIn(const Control& control);
@@ -51,7 +53,7 @@ class Walk {
   Room room_{host_};
   Form& form_ = room_.form();
   Invariants invariants_{form_};
-  Viewport view_;
+  View view_{form_};
   std::array<const Control*, 2> bars_{form_.find("HScrolldom"), form_.find("VScrollram1")};
   std::vector<const Control*> leaves_;
   std::vector<const Control*> buttons_;  // all others

@@ -12,10 +12,14 @@ namespace {
 constexpr Uint32 kCairoFormat = SDL_PIXELFORMAT_RGB888;  // what Cairo calls RGB24
 
 MouseButton buttonOf(const SDL_MouseButtonEvent& event) {
+  constexpr int kLastButton = 31;
   switch (event.button) {
+    case SDL_BUTTON_LEFT: return MouseButton::Left;
     case SDL_BUTTON_RIGHT: return MouseButton::Right;
     case SDL_BUTTON_MIDDLE: return MouseButton::Middle;
-    default: return MouseButton::Left;
+    default:
+      return static_cast<MouseButton>(
+          std::min(event.button - SDL_BUTTON_X1 + static_cast<int>(MouseButton::Back), kLastButton));
   }
 }
 
@@ -46,11 +50,6 @@ void initialize() {
     throw std::runtime_error("non c'è uno schermo");
 }
 
-bool isMouseButton(const SDL_MouseButtonEvent& event) {
-  return event.button == SDL_BUTTON_LEFT || event.button == SDL_BUTTON_RIGHT ||
-         event.button == SDL_BUTTON_MIDDLE;
-}
-
 /// A cursor drawn at that scale, its hot spot with it.
 Sdl<SDL_Cursor> makeCursor(const PictureId& picture, double scale, PainterCache& cache) {
   cairo_surface_t* drawn = CairoPainter::drawn(picture, scale, cache);
@@ -69,7 +68,7 @@ Sdl<SDL_Cursor> makeCursor(const PictureId& picture, double scale, PainterCache&
 
 }  // namespace
 
-Window::Window(Room& room) : form_(room.form()) {
+Window::Window(Room& room) : form_(room.form()), view_(form_) {
   // The window's own surface: nothing is gained from a graphics card here, and starting one takes long.
   SDL_SetHint(SDL_HINT_FRAMEBUFFER_ACCELERATION, "0");
   SDL_SetHint(SDL_HINT_VIDEO_ALLOW_SCREENSAVER, "1");
@@ -102,16 +101,14 @@ void Window::show() {
 void Window::handle(const SDL_Event& event) {
   switch (event.type) {
     case SDL_QUIT: open_ = false; break;
-    case SDL_MOUSEMOTION: form_.mouseMove(place(event.motion.x, event.motion.y)); break;
+    case SDL_MOUSEMOTION: view_.mouseAt(event.motion.x * density_, event.motion.y * density_); break;
     case SDL_MOUSEBUTTONDOWN:
+      view_.mouseAt(event.button.x * density_, event.button.y * density_);
+      form_.mouseDown(buttonOf(event.button));
+      break;
     case SDL_MOUSEBUTTONUP:
-      if (!isMouseButton(event.button)) break;
-      form_.mouseMove(place(event.button.x, event.button.y));
-      if (event.type == SDL_MOUSEBUTTONDOWN) {
-        form_.mouseDown(buttonOf(event.button));
-      } else {
-        form_.mouseUp(buttonOf(event.button));
-      }
+      view_.mouseAt(event.button.x * density_, event.button.y * density_);
+      form_.mouseUp(buttonOf(event.button));
       break;
     case SDL_WINDOWEVENT:
       if (event.window.event == SDL_WINDOWEVENT_SIZE_CHANGED) fit();
@@ -128,18 +125,15 @@ void Window::fit() {
   int mouseWidth = 0;
   SDL_GetWindowSize(window_, &mouseWidth, nullptr);
   density_ = mouseWidth > 0 ? static_cast<double>(width) / mouseWidth : 1;
-  const double before = view_.scale;
-  view_ = Viewport::fit(form_, width, height);
-  if (view_.scale != before) {
+  const double before = view_.scale();
+  view_.fit(width, height);
+  if (view_.scale() != before) {
     SDL_SetCursor(SDL_GetDefaultCursor());
     cursor_ = {};
     cursors_.clear();
   }
   form_.redraw();
 }
-
-/// The place of the mouse in the room.
-Point Window::place(int x, int y) const { return view_.place(x * density_, y * density_); }
 
 void Window::draw() {
   SDL_Surface* surface = SDL_GetWindowSurface(window_);
@@ -159,9 +153,9 @@ void Window::draw() {
 void Window::paintOn(SDL_Surface& surface) {
   const Owned<cairo_surface_t> canvas(cairo_image_surface_create_for_data(
       static_cast<unsigned char*>(surface.pixels), CAIRO_FORMAT_RGB24, surface.w, surface.h, surface.pitch));
-  if (view_.marginX > 0 || view_.marginY > 0) SDL_FillRect(&surface, nullptr, 0);
-  cairo_surface_set_device_offset(canvas.get(), view_.marginX, view_.marginY);
-  CairoPainter painter(canvas.get(), view_.scale, cache_);
+  if (view_.marginX() > 0 || view_.marginY() > 0) SDL_FillRect(&surface, nullptr, form_.surroundings());
+  cairo_surface_set_device_offset(canvas.get(), view_.marginX(), view_.marginY());
+  CairoPainter painter(canvas.get(), view_.scale(), cache_);
   form_.repaint(painter);
   cairo_surface_flush(canvas.get());
 }
@@ -174,7 +168,7 @@ void Window::showCursor() {
     return;
   }
   Sdl<SDL_Cursor>& cursor = cursors_[&wanted.store()];
-  if (cursor == nullptr) cursor = makeCursor(wanted, view_.scale / density_, cache_);
+  if (cursor == nullptr) cursor = makeCursor(wanted, view_.scale() / density_, cache_);
   SDL_SetCursor(cursor != nullptr ? cursor.get() : SDL_GetDefaultCursor());
 }
 

@@ -9,7 +9,7 @@
 #include "room/room.hpp"
 #include "shell/clock_source.hpp"
 #include "shell/data_directory.hpp"
-#include "shell/viewport.hpp"
+#include "shell/view.hpp"
 
 namespace tombolario {
 
@@ -54,14 +54,13 @@ class Window {
   void draw();
   void showCursor();
   void paintOn(SDL_Surface& surface);
-  Point place(int x, int y) const;
 
   Form& form_;
   SDL_Window* window_ = nullptr;  // left to the end of the process
   PainterCache cache_;
   std::map<const PictureStore*, Sdl<SDL_Cursor>> cursors_;  // at the present scale
   PictureId cursor_;
-  Viewport view_;
+  View view_;
   double density_ = 1;  // device pixels to a unit of the mouse
   bool open_ = true;
 };

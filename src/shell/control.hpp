@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdint>
 #include <functional>
 #include <string>
 #include <string_view>
@@ -15,7 +16,8 @@ namespace tombolario {
 
 class Form;
 
-enum class MouseButton { Left, Right, Middle };
+/// By number; a mouse may have more buttons at its side, which number on, below 32.
+enum class MouseButton : std::uint8_t { Left, Right, Middle, Back, Forward };
 
 /// `MousePointer` of a control that shows its own `MouseIcon`.
 inline constexpr int kCustomPointer = 99;
@@ -59,6 +61,8 @@ class Control {
   const Name& name() const { return name_; }
   /// Null for the window itself.
   Control* parent() const { return parent_; }
+  /// What lies in it, the last one on top.
+  const std::vector<Control*>& children() const { return children_; }
   /// Visible, and every control around it too.
   bool onView() const;
   /// Enabled, and every control around it too.
@@ -113,8 +117,6 @@ class Control {
   virtual int inset() const { return 0; }
 
   const Form& form() const { return form_; }
-  /// What lies in the same parent, this control among it; not for the window itself.
-  const std::vector<Control*>& fellows() const { return parent_->children_; }
   const Font& font() const { return font_; }
   Align align() const { return align_; }
   Border border() const { return border_; }
@@ -124,7 +126,7 @@ class Control {
 
   Form& form_;
   Control* parent_;
-  std::vector<Control*> children_;  // the last one lies on top
+  std::vector<Control*> children_;
   Name name_;
   Font font_;
   Align align_ = Align::Left;

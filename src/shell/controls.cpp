@@ -83,7 +83,7 @@ void Button::draw(Painter& painter, const Rect& bounds) const {
 void OptionButton::changed() {
   Control::changed();
   if (Value != 1) return;
-  for (Control* fellow : fellows()) {
+  for (Control* fellow : parent()->children()) {
     if (fellow != this && dynamic_cast<OptionButton*>(fellow) != nullptr) fellow->Value = 0;
   }
 }

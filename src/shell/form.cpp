@@ -39,7 +39,10 @@ void Form::mouseMove(Point point) {
 }
 
 void Form::mouseDown(MouseButton button) {
-  if ((held_ & bit(button)) != 0) return;
+  if ((held_ & bit(button)) != 0) {
+    armed_ = nullptr;
+    mouseUp(button);
+  }
   if (held_ == 0) captured_ = underMouse();
   held_ |= bit(button);
   if (!live(captured_)) return;
@@ -49,6 +52,13 @@ void Form::mouseDown(MouseButton button) {
     captured_->leftDown(mouse_ - captured_->origin());
   }
   if (captured_->onMouseDown) captured_->onMouseDown(button);
+  if (!captured_->onView()) letGo();
+}
+
+void Form::letGo() {
+  held_ = 0;
+  captured_ = armed_ = nullptr;
+  updateSunken();
 }
 
 void Form::mouseUp(MouseButton button) {
@@ -77,6 +87,13 @@ void Form::repaint(Painter& painter) {
   paint(painter);
   painter.leave();
   needsDrawing_ = false;
+}
+
+Rgb Form::surroundings() const {
+  const auto screen = std::find_if(children().rbegin(), children().rend(),
+                                   [](const Control* child) { return child->Visible.get(); });
+  const Control* inSight = screen != children().rend() ? *screen : this;
+  return inSight->BackColor.get().rgb();
 }
 
 void Form::draw(Painter& painter, const Rect& bounds) const {

@@ -11,15 +11,17 @@ namespace tombolario {
 ///
 /// A mouse event goes to the topmost control on view under the mouse; a disabled one takes it and does
 /// nothing. A press captures the mouse until every button is released, also when the captured control
-/// is hidden meanwhile: it then gets nothing any more, and nor does what came into its place. A click is
-/// a press and a release of the left button inside the same control.
+/// is hidden meanwhile: it then gets nothing any more, and nor does what came into its place. A press that
+/// hides its own control captures nothing, and its release is nobody's. A click is a press and a release of
+/// the left button inside the same control.
 class Form : public Control {
  public:
   Form(Name name, Box box, Colour back, std::string caption);
 
   /// Points are in twips of the window and may lie outside it.
   void mouseMove(Point point);
-  /// A second press of a button that is already down, and a release of one that is not, do nothing.
+  /// A press of a button that is already down tells that its release went elsewhere, to another program: it
+  /// is released first, without a click. A release of a button that is not down does nothing.
   void mouseDown(MouseButton button);
   void mouseUp(MouseButton button);
 
@@ -27,6 +29,9 @@ class Form : public Control {
   PictureId cursor();
   /// Whether the left button holds the control down at this moment.
   bool holdsDown(const Control& control) const { return &control == sunken_; }
+
+  /// The colour that goes on around the room: that of the screen in sight.
+  Rgb surroundings() const;
 
   /// True from a change that can be seen until the next repaint.
   bool needsDrawing() const { return needsDrawing_; }
@@ -45,6 +50,7 @@ class Form : public Control {
   void draw(Painter& painter, const Rect& bounds) const override;
   Control* underMouse();
   Control* target();
+  void letGo();
   void updateSunken();
 
   std::vector<Control*> controls_;

@@ -22,7 +22,9 @@ void cursor_reset();
 }  // namespace
 
 void Page::fit(int width, int height, double density) {
-  view_ = Viewport::fit(form_, width, height);
+  view_.fit(width, height);
+  width_ = width;
+  height_ = height;
   density_ = density;
   cursor_ = {};
   cursor_reset();
@@ -31,8 +33,9 @@ void Page::fit(int width, int height, double density) {
 }
 
 void Page::pointer(double x, double y, unsigned buttons) {
-  form_.mouseMove(view_.place(x, y));
-  for (const MouseButton button : {MouseButton::Left, MouseButton::Right, MouseButton::Middle}) {
+  view_.mouseAt(x, y);
+  for (const MouseButton button : {MouseButton::Left, MouseButton::Right, MouseButton::Middle,
+                                   MouseButton::Back, MouseButton::Forward}) {
     const unsigned bit = 1U << static_cast<unsigned>(button);
     if ((buttons & ~buttons_ & bit) != 0) form_.mouseDown(button);
     if ((buttons_ & ~buttons & bit) != 0) form_.mouseUp(button);
@@ -42,7 +45,10 @@ void Page::pointer(double x, double y, unsigned buttons) {
 }
 
 void Page::draw() {
-  CanvasPainter painter(kPageCanvas, {double(view_.marginX), double(view_.marginY)}, view_.scale, cache_);
+  const int x = view_.marginX();
+  const int y = view_.marginY();
+  CanvasPainter painter(kPageCanvas, {double(x), double(y)}, view_.scale(), cache_);
+  if (x > 0 || y > 0) canvas_fill_rect(kPageCanvas, -x, -y, width_, height_, form_.surroundings());
   form_.repaint(painter);
 }
 
@@ -60,7 +66,7 @@ void Page::showCursor() {
   }
   const Size size = wanted.size();
   const double largest = kLargestCursor * density_ / std::max(size.width, size.height);
-  const double scale = std::min(view_.scale, largest);
+  const double scale = std::min(view_.scale(), largest);
   const Vec hot = wanted.store().hotSpot;
   cursor_show(CanvasPainter::drawn(wanted, scale, cache_).plain.handle(), density_,
               (hot.x + 0.5) * scale / density_, (hot.y + 0.5) * scale / density_);

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "shell/form.hpp"
-#include "shell/viewport.hpp"
+#include "shell/view.hpp"
 #include "web/canvas_painter.hpp"
 
 namespace tombolario {
@@ -10,11 +10,12 @@ namespace tombolario {
 /// it. Lengths are device pixels of the canvas.
 class Page {
  public:
-  explicit Page(Form& form) : form_(form) {}
+  explicit Page(Form& form) : form_(form), view_(form) {}
 
   /// The canvas is empty and has that size now, and that many device pixels to a unit of the style sheets.
   void fit(int width, int height, double density);
-  /// The pointer is there, with the buttons down that have their bits set: 1 left, 2 right, 4 middle.
+  /// The pointer is there, with the buttons down that have their bits set: 1 left, 2 right, 4 middle, 8 back,
+  /// 16 forward.
   void pointer(double x, double y, unsigned buttons);
   bool needsDrawing() const { return form_.needsDrawing(); }
   void draw();
@@ -26,7 +27,9 @@ class Page {
 
   Form& form_;
   CanvasCache cache_;
-  Viewport view_;
+  View view_;
+  int width_ = 0;
+  int height_ = 0;
   double density_ = 1;
   unsigned buttons_ = 0;
   PictureId cursor_;

@@ -24,26 +24,35 @@ function play(room) {
 
   // One pointer at a time: the one that holds a button down, then whichever moves.
   let holder = null;
+
+  // A press that the browser or another program takes away ends outside the room, and so clicks nothing.
+  function end() {
+    holder = null;
+    room._page_pointer(page, -1, -1, 0);
+  }
+
   function point(event) {
     if (!event.isPrimary || (holder !== null && event.pointerId !== holder)) return;
+    if (holder !== null && (event.type === 'pointerdown' || (event.type === 'pointermove' && !event.buttons))) end();
     holder = event.buttons ? event.pointerId : null;
     if (event.type === 'pointerdown') canvas.setPointerCapture(event.pointerId);
     const density = canvas.width / canvas.clientWidth;
-    room._page_pointer(page, event.clientX * density, event.clientY * density, event.buttons & 7);
+    room._page_pointer(page, event.clientX * density, event.clientY * density, event.buttons & 31);
     drawSoon();
   }
 
-  // A press that the browser takes away ends outside the room, and so clicks nothing.
   function cancel(event) {
     if (event.pointerId !== holder) return;
-    holder = null;
-    room._page_pointer(page, -1, -1, 0);
+    end();
     drawSoon();
   }
 
   for (const type of ['pointermove', 'pointerdown', 'pointerup']) canvas.addEventListener(type, point);
   canvas.addEventListener('pointercancel', cancel);
-  canvas.addEventListener('contextmenu', (event) => event.preventDefault());
+  // What a browser does by itself: a menu, scrolling, a page back or forward.
+  for (const type of ['contextmenu', 'mousedown', 'mouseup', 'auxclick']) {
+    canvas.addEventListener(type, (event) => event.preventDefault());
+  }
   canvas.addEventListener('contextrestored', () => {
     room._page_forget(page);
     drawSoon();
