@@ -334,6 +334,8 @@ TEST_F(VideoPokerTable, AFileIsMadeADirectoryStaysAndALongFileKeepsItsRest) {
   expectSeen();
   EXPECT_TRUE(std::filesystem::is_directory(file));
   std::filesystem::remove(file);
+  save();
+  EXPECT_EQ(contentOf(file), "\x1C" + std::string(39, '\0'));
   writeFile(file, std::string(1000, '\xAA'));
   save();
   EXPECT_EQ(contentOf(file), std::string("\x1C\0", 2) + std::string(998, '\xAA'));

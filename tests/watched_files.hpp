@@ -15,15 +15,15 @@ class WatchedFiles : public DataFiles {
 
   /// The room whose files these are.
   void watch(Form& room) { room_ = &room; }
-  std::optional<Bytes> read(const std::string& name, std::size_t count) override;
-  bool write(const std::string& name, std::span<const unsigned char> bytes) override;
+  bool read(const std::string& name, std::span<std::int16_t> numbers) override;
+  bool write(const std::string& name, std::span<const std::int16_t> numbers) override;
 
   /// Something happens to a file behind the room's back; kind and size are any numbers.
   void harm(int kind, int size);
   long saves() const { return saves_; }
 
  private:
-  void checkNumbers(const std::string& name, std::span<const unsigned char> bytes) const;
+  void checkNumbers(const std::string& name, std::span<const std::int16_t> numbers) const;
 
   std::filesystem::path directory_;
   DataDirectory files_;

@@ -16,9 +16,6 @@ constexpr Colour kExchanged = kRed;
 constexpr Colour kIdle = SystemColour::ToolTip;
 constexpr Colour kReady = kYellow;
 
-constexpr int kScoreRecord = 1;
-constexpr int kLevelRecord = 2;
-
 }  // namespace
 
 Table::Table(Form& owner, Host& host) : form(owner), host_(host) {
@@ -174,8 +171,7 @@ void Table::SALVACAT_Click() { file().write({game_.state().puntcat, game_.state(
 
 /// "CARICA": back to where the game was stored, after a level that was passed.
 void Table::CARCAT_Click() {
-  const std::int16_t score = file().read(kScoreRecord).value_or(0);
-  const std::int16_t level = file().read(kLevelRecord).value_or(0);
+  const auto [score, level] = file().read().items;
   if (score == 0) CARCAT.Enabled = false;
   if (score <= 0) return;
   game_.resume(score, level);
@@ -205,7 +201,5 @@ void Table::showLinks() {
   Lll1.Caption = std::to_string(links);
   Lok.Visible = links == kFullChain;
 }
-
-RecordFile Table::file() { return {host_.dataFiles(), "CATENA.dat"}; }
 
 }  // namespace tombolario::chain

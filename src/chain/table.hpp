@@ -97,7 +97,8 @@ class Table {
   void showLinks();
   void showMarks();
   void showTile(int position);
-  RecordFile file();
+  /// The score and the level are stored.
+  RecordFile<2> file() { return {host_.dataFiles(), "CATENA.dat"}; }
   Mode mode() const { return Optca1.Value == 1 ? Mode::OneExchange : Mode::TwoExchanges; }
 
   static constexpr const char* kSubstitution = "SOSTITUZIONE";

@@ -1,26 +1,29 @@
 #pragma once
 
-#include <cstdint>
-#include <initializer_list>
-#include <optional>
 #include <string>
 #include <utility>
 
 #include "shell/data_files.hpp"
+#include "shell/slots.hpp"
 
 namespace tombolario {
 
-/// A data file of fixed 40-byte records, numbered from 1, each with one signed 16-bit little-endian
-/// number at its start; the other 38 bytes are free.
+/// A stored game: a data file with one number in each of its records, 1 to kRecords. The games tell of no
+/// failure. What cannot be read counts as 0; what cannot be stored leaves what was stored before, which the
+/// player finds at the next load.
+template <int kRecords>
 class RecordFile {
  public:
+  using Records = Numbers<1, kRecords>;
+
   RecordFile(DataFiles& files, std::string name) : files_(files), name_(std::move(name)) {}
 
-  /// The number of a record; nothing where the file is too short or cannot be read.
-  std::optional<std::int16_t> read(int record) const;
-  /// Writes the numbers of the records from the first on, all at once, and changes no other byte. False if
-  /// it could not be done, and then nothing has changed.
-  bool write(std::initializer_list<std::int16_t> values) const;
+  Records read() const {
+    Records records{};
+    files_.read(name_, records.items);
+    return records;
+  }
+  void write(const Records& records) const { files_.write(name_, records.items); }
 
  private:
   DataFiles& files_;

@@ -56,7 +56,7 @@ void Table::Command8_Click() {
 
 /// "CARICA PARTITA".
 void Table::Command9_Click() {
-  if (!game_.load(file().read(kBalanceRecord).value_or(0))) {
+  if (!game_.load(file().read()[1])) {
     Command9.Enabled = false;
     return;
   }
@@ -180,7 +180,5 @@ void Table::refuseButtons() {
 void Table::hideRows() {
   for (PictureBox& row : segn) row.Visible = false;
 }
-
-RecordFile Table::file() { return {host_.dataFiles(), "videopoker.dat"}; }
 
 }  // namespace tombolario::videopoker

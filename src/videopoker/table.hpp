@@ -85,9 +85,8 @@ class Table {
   void openButtons();
   void refuseButtons();
   void hideRows();
-  RecordFile file();
-
-  static constexpr int kBalanceRecord = 1;
+  /// The balance alone is stored.
+  RecordFile<1> file() { return {host_.dataFiles(), "videopoker.dat"}; }
 
   Host& host_;
   VideoPoker game_;

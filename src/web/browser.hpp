@@ -8,8 +8,8 @@ namespace tombolario {
 /// Data files in the browser's own storage. Where that is refused or full, a call fails and changes nothing.
 class BrowserFiles : public DataFiles {
  public:
-  std::optional<Bytes> read(const std::string& name, std::size_t count) override;
-  bool write(const std::string& name, std::span<const unsigned char> bytes) override;
+  bool read(const std::string& name, std::span<std::int16_t> numbers) override;
+  bool write(const std::string& name, std::span<const std::int16_t> numbers) override;
 };
 
 /// The surroundings of the room in a browser.
