@@ -156,6 +156,12 @@ TEST_F(FormTest, APressWhoseReleaseNeverCameEndsWithTheNextOne) {
   EXPECT_TRUE(form.holdsDown(second));
   release(kOnSecond);
   EXPECT_EQ(taken(), "down(first) up(first) down(second) up(second) second ");
+  press(kOnFirst);
+  press(kOnFirst, MouseButton::Forward);
+  form.mouseLost();
+  EXPECT_FALSE(form.holdsDown(first));
+  release(kOnFirst);
+  EXPECT_EQ(taken(), "down(first) down(first*) up(first) up(first*) ");
 }
 
 TEST_F(FormTest, AroundTheRoomTheScreenInSightGoesOn) {

@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
 # Plays a hand of video poker in the real window, at its own size and at twice that, and looks at what the
-# screen shows: tests/window_test.sh PROGRAM
+# screen shows; then on a Wayland desktop, and on none: tests/window_test.sh PROGRAM DRIVER
 set -euo pipefail
 
 die() {
@@ -9,9 +9,13 @@ die() {
 }
 . "$(dirname -- "${BASH_SOURCE[0]}")/../script/virtual-display.sh"
 
+program=$(realpath -- "$1")
 first_game=(4230 1740)   # commpr(1)
 bare_ground=(3000 5500)  # of the main menu, away from every button
-row_tops=(0 290 570 800 1050 1310 1560 1810 2070 2330 2560) # segn, in the pay table
+email=(4230 6850)        # CLINK(1)
+menu=(3990 2160)         # MENUVP
+mapfile -t row_tops < <(for row in {0..10}; do echo "get segn($row) Top"; done | "$2")
+((${#row_tops[@]} == 11)) || die "the driver does not tell the rows of the pay table"
 
 # Sets `lit` to the numbers of the rows of the pay table that are lit. A row hides the edge of the one
 # above, so each is looked at in its middle, left of its words.
@@ -122,8 +126,54 @@ ask_to_close() {
 }
 room_has_ended() { ! kill -0 "$room_pid" 2>/dev/null; }
 
+# What the room would start: a session bus, and the desktop's program for addresses.
+mkdir "$scratch/bin"
+printf '#!/bin/sh\ntouch "%s"\n' "$scratch/bus-was-started" >"$scratch/bin/dbus-launch"
+printf '#!/bin/sh\nprintf "%%s\\n" "$1" >>"%s"\n' "$scratch/addresses" >"$scratch/bin/xdg-open"
+chmod +x "$scratch"/bin/*
+export PATH=$scratch/bin:$PATH
+unset DBUS_SESSION_BUS_ADDRESS
+
 open_screen
-open_room "$1"
+open_room "$program"
+must "the main menu" shows ff8000 "${banner[@]}"
+[[ ! -e $scratch/bus-was-started ]] || die "the room has started a session bus"
+[[ $(xprop -id "$window" _NET_WM_ICON) == *"128 x 128"* ]] || die "the window has no icon"
+
+# A release where the mouse is already is no move: the link stays at rest.
+point_at "${email[@]}"
+must "the link under the mouse" shows ff8000 "${email[@]}"
+xdotool mousedown 1
+must "the pressed link" shows ffff00 "${email[@]}"
+xdotool mouseup 1
+point_at "${videopoker[@]}"
+must "the button under the mouse" shows 0000ff "${videopoker[@]}"
+shows ffff00 "${email[@]}" || die "a release has lit the link again"
+must "the address is handed out" grep -qx 'mailto:.*@.*' "$scratch/addresses"
+
+# A button at the side of the mouse opens a game, too.
+xdotool click 8
+must "the menu of video poker" shows ffff00 "${new_game[@]}"
+click "${menu[@]}"
+must "the main menu again" shows ff8000 "${banner[@]}"
+
+# Another window takes the focus of a press, and its release with it. The next click is one, for all that.
+(cd -- "$scratch" && exec "$program") &
+thief_pid=$!
+thief=$(timeout "$patience" xdotool search --sync --onlyvisible --pid "$thief_pid" | tail -n 1) ||
+  die "a second window does not open"
+xdotool windowmove --sync "$thief" 850 600 windowfocus --sync "$window"
+point_at "${email[@]}"
+must "the link under the mouse" shows ff8000 "${email[@]}"
+xdotool mousedown 1
+must "the pressed link" shows ffff00 "${email[@]}"
+xdotool windowfocus --sync "$thief" mousemove 1200 900 mouseup 1
+kill -KILL "$thief_pid"
+wait "$thief_pid" 2>/dev/null || true
+click "${videopoker[@]}"
+must "the menu of video poker" shows ffff00 "${new_game[@]}"
+click "${menu[@]}"
+
 play_one_hand look_at_scene
 
 look_at_rows
@@ -140,7 +190,7 @@ must "no row is lit for the new hand" lit_rows_are ""
 xdotool windowsize "$window" 1684 1146
 margin_x=50
 marks_are_offered
-[[ $(pixel 25 573)$(pixel 1659 573) == 000000000000 ]] || die "the margins are not black"
+[[ $(pixel 25 573)$(pixel 1659 573) == ffffffffffff ]] || die "the margins do not go on with the table"
 mark_of_card 2
 click $((place[0] + 1100)) "${place[1]}" # near the right edge: the mouse is off by the margin or hits
 frames_show dfdfdf dfdfdf 808080 dfdfdf dfdfdf
@@ -152,7 +202,28 @@ wait "$room_pid" || status=$?
 room_pid=
 ((status == 0)) || die "the room ended with status $status"
 
+# A Wayland desktop that shows the one window as large as itself.
+scale=1
+margin_x=0
+export XDG_RUNTIME_DIR=$scratch/runtime
+mkdir -m 700 "$XDG_RUNTIME_DIR"
+weston --backend=x11-backend.so --shell=kiosk-shell.so --width=792 --height=573 --socket=desktop --idle-time=0 \
+  --no-config >"$scratch/weston.log" 2>&1 &
+weston_pid=$!
+must "a Wayland desktop" test -S "$XDG_RUNTIME_DIR/desktop"
+env -u DISPLAY -u SDL_VIDEODRIVER WAYLAND_DISPLAY=desktop "$program" 2>"$scratch/complaints" &
+room_pid=$!
+must "the main menu on Wayland" shows ff8000 "${banner[@]}"
+must "its buttons" shows 00ffff "${videopoker[@]}"
+grep -i compos "$scratch/complaints" && die "the rules for composing letters are missed"
+kill "$room_pid"
+must "the room ends on Wayland" room_has_ended
+room_pid=
+kill "$weston_pid"
+
 status=0
-env -u DISPLAY -u SDL_VIDEODRIVER timeout "$patience" "$1" 2>/dev/null || status=$?
+env -u DISPLAY -u SDL_VIDEODRIVER timeout "$patience" "$program" 2>"$scratch/complaints" || status=$?
 ((status == 1)) || die "without a display the room ends with status $status"
+[[ $(<"$scratch/complaints") == "Tombolario non può aprirsi: non c'è uno schermo che risponda." ]] ||
+  die "without a display the room says: $(<"$scratch/complaints")"
 echo "window_test: passed"

@@ -1,16 +1,18 @@
 #include <cstdio>
-#include <stdexcept>
 
 #include "desktop/window.hpp"
 
 int main(int, char**) {
-  tombolario::DesktopHost host;
-  tombolario::Room room(host);
-  room.Form_Load();
   try {
+    tombolario::DesktopHost host;
+    tombolario::Room room(host);
+    room.Form_Load();
     tombolario::Window(room).run();
-  } catch (const std::runtime_error& error) {
-    std::fprintf(stderr, "Tombolario: la finestra non si apre: %s\n", error.what());
+  } catch (const tombolario::CannotOpen& error) {
+    std::fprintf(stderr, "%s\n", error.what());
+    return 1;
+  } catch (const std::exception& error) {
+    std::fprintf(stderr, "Tombolario si è fermato per un errore (%s).\n", error.what());
     return 1;
   }
   return 0;

@@ -2,8 +2,10 @@
 
 #include <algorithm>
 #include <cstdlib>
-#include <stdexcept>
+#include <string>
 #include <string_view>
+
+#include "pictures/icon.hpp"
 
 namespace tombolario {
 
@@ -17,69 +19,103 @@ MouseButton buttonOf(const SDL_MouseButtonEvent& event) {
     case SDL_BUTTON_LEFT: return MouseButton::Left;
     case SDL_BUTTON_RIGHT: return MouseButton::Right;
     case SDL_BUTTON_MIDDLE: return MouseButton::Middle;
-    default:
-      return static_cast<MouseButton>(
-          std::min(event.button - SDL_BUTTON_X1 + static_cast<int>(MouseButton::Back), kLastButton));
+    default: return static_cast<MouseButton>(std::min(event.button - 1, kLastButton));
   }
 }
 
-/// Keeps the X library from reading its rules for composing letters, for as long as this lives: a room
-/// without a keyboard has no use for them, and they take a third of the time of a start.
-class NoComposing {
+/// A variable of the environment that the user has not set, for as long as this lives: what the room starts
+/// later, as a browser, does not see it.
+class Meanwhile {
 #ifdef __unix__
  public:
-  NoComposing() { setenv(kRules, "/dev/null", 0); }
-  NoComposing(const NoComposing&) = delete;
-  NoComposing& operator=(const NoComposing&) = delete;
-  ~NoComposing() {
-    // What the room starts, as a browser, has its own keyboard.
-    if (!set_) unsetenv(kRules);
+  Meanwhile(const char* name, const char* value) : name_(name), set_(std::getenv(name) != nullptr) {
+    setenv(name_, value, 0);
+  }
+  Meanwhile(const Meanwhile&) = delete;
+  Meanwhile& operator=(const Meanwhile&) = delete;
+  ~Meanwhile() {
+    if (!set_) unsetenv(name_);
   }
 
  private:
-  static constexpr const char* kRules = "XCOMPOSEFILE";
-  bool set_ = std::getenv(kRules) != nullptr;
+  const char* name_;
+  bool set_;
+#else
+ public:
+  Meanwhile(const char*, const char*) {}
 #endif
 };
 
-void initialize() {
-  [[maybe_unused]] const NoComposing whileItStarts;
-  if (SDL_Init(SDL_INIT_VIDEO) != 0) throw std::runtime_error(SDL_GetError());
-  // What SDL falls back to where there is no display: a window that nobody sees and nobody can close.
-  if (SDL_GetCurrentVideoDriver() == std::string_view("offscreen"))
-    throw std::runtime_error("non c'è uno schermo");
+/// Whether SDL is to try the X server before anything else, which is what it would do, too.
+bool startsWithX11() {
+  const char* wanted = std::getenv("SDL_VIDEODRIVER");
+  return wanted != nullptr ? wanted == std::string_view("x11") : std::getenv("DISPLAY") != nullptr;
+}
+
+bool initialize() {
+  // The room has no use for a session bus: where there is none, SDL would start one that outlives the room.
+  [[maybe_unused]] const Meanwhile noBus("DBUS_SESSION_BUS_ADDRESS", "disabled:");
+  if (startsWithX11()) {
+    // Nor has it a keyboard: the X library's rules for composing letters take a third of the time of a start.
+    [[maybe_unused]] const Meanwhile noRules("XCOMPOSEFILE", "/dev/null");
+    SDL_SetHint(SDL_HINT_VIDEODRIVER, "x11");
+    if (SDL_Init(SDL_INIT_VIDEO) == 0) return true;
+    SDL_ResetHint(SDL_HINT_VIDEODRIVER);
+  }
+  return SDL_Init(SDL_INIT_VIDEO) == 0;
+}
+
+bool runsOn(std::string_view driver) {
+  const char* present = SDL_GetCurrentVideoDriver();
+  return present != nullptr && present == driver;
+}
+
+CannotOpen noWindow() {
+  return CannotOpen(std::string("Tombolario non può aprire la sua finestra (") + SDL_GetError() + ").");
+}
+
+/// What was drawn, to be read as long as that lives.
+Sdl<SDL_Surface> surfaceOf(cairo_surface_t* drawn) {
+  cairo_surface_flush(drawn);
+  return Sdl<SDL_Surface>(SDL_CreateRGBSurfaceWithFormatFrom(
+      cairo_image_surface_get_data(drawn), cairo_image_surface_get_width(drawn),
+      cairo_image_surface_get_height(drawn), 32, cairo_image_surface_get_stride(drawn),
+      SDL_PIXELFORMAT_ARGB8888));
 }
 
 /// A cursor drawn at that scale, its hot spot with it.
 Sdl<SDL_Cursor> makeCursor(const PictureId& picture, double scale, PainterCache& cache) {
   cairo_surface_t* drawn = CairoPainter::drawn(picture, scale, cache);
-  cairo_surface_flush(drawn);
-  const int width = cairo_image_surface_get_width(drawn);
-  const int height = cairo_image_surface_get_height(drawn);
-  const Sdl<SDL_Surface> surface(
-      SDL_CreateRGBSurfaceWithFormatFrom(cairo_image_surface_get_data(drawn), width, height, 32,
-                                         cairo_image_surface_get_stride(drawn), SDL_PIXELFORMAT_ARGB8888));
+  const Sdl<SDL_Surface> surface = surfaceOf(drawn);
+  if (surface == nullptr) return nullptr;
   const Vec hot = picture.store().hotSpot;
   const auto pixel = [scale](double at, int end) {
     return std::clamp(static_cast<int>((at + 0.5) * scale), 0, end - 1);
   };
-  return Sdl<SDL_Cursor>(SDL_CreateColorCursor(surface.get(), pixel(hot.x, width), pixel(hot.y, height)));
+  return Sdl<SDL_Cursor>(
+      SDL_CreateColorCursor(surface.get(), pixel(hot.x, surface->w), pixel(hot.y, surface->h)));
 }
 
 }  // namespace
 
 Window::Window(Room& room) : form_(room.form()), view_(form_) {
-  // The window's own surface: nothing is gained from a graphics card here, and starting one takes long.
-  SDL_SetHint(SDL_HINT_FRAMEBUFFER_ACCELERATION, "0");
   SDL_SetHint(SDL_HINT_VIDEO_ALLOW_SCREENSAVER, "1");
   SDL_SetHint(SDL_HINT_VIDEO_X11_NET_WM_BYPASS_COMPOSITOR, "0");
   SDL_SetHint(SDL_HINT_MOUSE_FOCUS_CLICKTHROUGH, "1");
-  initialize();
+  // The last resort of SDL is a window that nobody sees and nobody can close.
+  if (!initialize() || runsOn("offscreen")) {
+    throw CannotOpen("Tombolario non può aprirsi: non c'è uno schermo che risponda.");
+  }
+  if (runsOn("x11")) {
+    // The window's own surface: nothing is gained from a graphics card here, and starting one takes long.
+    SDL_SetHint(SDL_HINT_FRAMEBUFFER_ACCELERATION, "0");
+  }
   window_ = SDL_CreateWindow(form_.Caption.get().c_str(), SDL_WINDOWPOS_CENTERED, SDL_WINDOWPOS_CENTERED,
                              form_.Width / kTwipsPerPixel, form_.Height / kTwipsPerPixel,
                              SDL_WINDOW_RESIZABLE | SDL_WINDOW_ALLOW_HIGHDPI);
-  if (window_ == nullptr) throw std::runtime_error(SDL_GetError());
+  if (window_ == nullptr) throw noWindow();
   SDL_SetWindowMinimumSize(window_, form_.Width / kTwipsPerPixel / 3, form_.Height / kTwipsPerPixel / 3);
+  showIcon();
   fit();
 }
 
@@ -101,21 +137,38 @@ void Window::show() {
 void Window::handle(const SDL_Event& event) {
   switch (event.type) {
     case SDL_QUIT: open_ = false; break;
-    case SDL_MOUSEMOTION: view_.mouseAt(event.motion.x * density_, event.motion.y * density_); break;
+    case SDL_MOUSEMOTION:
+      lookForLostReleases();
+      view_.mouseAt(event.motion.x * density_, event.motion.y * density_);
+      break;
     case SDL_MOUSEBUTTONDOWN:
-      view_.mouseAt(event.button.x * density_, event.button.y * density_);
-      form_.mouseDown(buttonOf(event.button));
-      break;
-    case SDL_MOUSEBUTTONUP:
-      view_.mouseAt(event.button.x * density_, event.button.y * density_);
-      form_.mouseUp(buttonOf(event.button));
-      break;
+    case SDL_MOUSEBUTTONUP: button(event.button); break;
     case SDL_WINDOWEVENT:
       if (event.window.event == SDL_WINDOWEVENT_SIZE_CHANGED) fit();
       if (event.window.event == SDL_WINDOWEVENT_EXPOSED) form_.redraw();
+      if (event.window.event == SDL_WINDOWEVENT_FOCUS_LOST) {
+        form_.mouseLost();
+        awaited_ = SDL_GetMouseState(nullptr, nullptr);
+      }
       break;
     default: break;
   }
+}
+
+void Window::button(const SDL_MouseButtonEvent& event) {
+  const Uint32 bit = SDL_BUTTON(event.button);
+  const bool pressed = event.type == SDL_MOUSEBUTTONDOWN;
+  view_.mouseAt(event.x * density_, event.y * density_);
+  if (pressed || (lost_ & bit) != 0) form_.mouseDown(buttonOf(event));
+  if (!pressed) form_.mouseUp(buttonOf(event));
+  awaited_ &= ~bit;
+  lost_ &= ~bit;
+}
+
+void Window::lookForLostReleases() {
+  if (awaited_ == 0) return;
+  lost_ |= awaited_ & ~SDL_GetGlobalMouseState(nullptr, nullptr);
+  awaited_ &= ~lost_;
 }
 
 void Window::fit() {
@@ -137,13 +190,13 @@ void Window::fit() {
 
 void Window::draw() {
   SDL_Surface* surface = SDL_GetWindowSurface(window_);
-  if (surface == nullptr) return;
+  if (surface == nullptr) throw noWindow();
   if (surface->format->format == kCairoFormat) {
     paintOn(*surface);
   } else {
     const Sdl<SDL_Surface> canvas(
         SDL_CreateRGBSurfaceWithFormat(0, surface->w, surface->h, 32, kCairoFormat));
-    if (canvas == nullptr) return;
+    if (canvas == nullptr) throw noWindow();
     paintOn(*canvas);
     SDL_BlitSurface(canvas.get(), nullptr, surface, nullptr);
   }
@@ -158,6 +211,14 @@ void Window::paintOn(SDL_Surface& surface) {
   CairoPainter painter(canvas.get(), view_.scale(), cache_);
   form_.repaint(painter);
   cairo_surface_flush(canvas.get());
+}
+
+void Window::showIcon() {
+  const Owned<cairo_surface_t> drawn(
+      cairo_image_surface_create(CAIRO_FORMAT_ARGB32, pictures::kIconSide, pictures::kIconSide));
+  CairoPainter painter(drawn.get(), 1, cache_);
+  pictures::drawIcon(painter);
+  if (const Sdl<SDL_Surface> icon = surfaceOf(drawn.get())) SDL_SetWindowIcon(window_, icon.get());
 }
 
 void Window::showCursor() {

@@ -4,6 +4,7 @@
 
 #include <map>
 #include <memory>
+#include <stdexcept>
 
 #include "desktop/cairo_painter.hpp"
 #include "room/room.hpp"
@@ -25,6 +26,11 @@ class DesktopHost : public Host {
   DataDirectory dataFiles_{"."};
 };
 
+/// Why there is no window, in a sentence for the player.
+struct CannotOpen : std::runtime_error {
+  using std::runtime_error::runtime_error;
+};
+
 struct SdlDeleter {
   void operator()(SDL_Surface* surface) const { SDL_FreeSurface(surface); }
   void operator()(SDL_Cursor* cursor) const { SDL_FreeCursor(cursor); }
@@ -39,19 +45,23 @@ using Sdl = std::unique_ptr<Object, SdlDeleter>;
 /// and what is still on its way when the window is gone is an error of the X server that ends the process.
 class Window {
  public:
-  /// Opens the window at its own size. Throws std::runtime_error where there is no display.
+  /// Opens the window at its own size. Throws CannotOpen.
   explicit Window(Room& room);
 
   /// Handles events until the window is closed.
   void run();
   /// Brings one event to the room; nothing is drawn yet.
   void handle(const SDL_Event& event);
-  /// Draws what has changed, if anything has, and gives the mouse its cursor.
+  /// Draws what has changed, if anything has, and gives the mouse its cursor. Throws CannotOpen where the
+  /// window cannot be drawn on.
   void show();
 
  private:
+  void button(const SDL_MouseButtonEvent& event);
+  void lookForLostReleases();
   void fit();
   void draw();
+  void showIcon();
   void showCursor();
   void paintOn(SDL_Surface& surface);
 
@@ -63,6 +73,10 @@ class Window {
   View view_;
   double density_ = 1;  // device pixels to a unit of the mouse
   bool open_ = true;
+  // Buttons, a bit for each. With the focus the window may lose a release to another window; SDL takes the
+  // button to be down still, and then tells of the release of its next press alone.
+  Uint32 awaited_ = 0;  // down when the focus went
+  Uint32 lost_ = 0;     // and found up since
 };
 
 }  // namespace tombolario

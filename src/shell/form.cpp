@@ -39,10 +39,7 @@ void Form::mouseMove(Point point) {
 }
 
 void Form::mouseDown(MouseButton button) {
-  if ((held_ & bit(button)) != 0) {
-    armed_ = nullptr;
-    mouseUp(button);
-  }
+  if ((held_ & bit(button)) != 0) mouseLost();
   if (held_ == 0) captured_ = underMouse();
   held_ |= bit(button);
   if (!live(captured_)) return;
@@ -53,6 +50,12 @@ void Form::mouseDown(MouseButton button) {
   }
   if (captured_->onMouseDown) captured_->onMouseDown(button);
   if (!captured_->onView()) letGo();
+}
+
+void Form::mouseLost() {
+  armed_ = nullptr;
+  updateSunken();
+  for (unsigned button = 0; held_ != 0; ++button) mouseUp(static_cast<MouseButton>(button));
 }
 
 void Form::letGo() {

@@ -24,6 +24,8 @@ class Form : public Control {
   /// is released first, without a click. A release of a button that is not down does nothing.
   void mouseDown(MouseButton button);
   void mouseUp(MouseButton button);
+  /// What is still down is released without a click: the mouse is another program's.
+  void mouseLost();
 
   /// The cursor to show now; none is the system's arrow.
   PictureId cursor();
