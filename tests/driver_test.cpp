@@ -1,3 +1,5 @@
+#include <sstream>
+
 #include "session.hpp"
 
 namespace tombolario {
@@ -12,6 +14,8 @@ TEST(Driver, ABadCommandAnswersAnErrorAndChangesNothing) {
                           "u 0.1 0.2 zebra",
                           "u 0.5 1",
                           "u -0.1",
+                          "u -0.0",
+                          "u 1e-400",
                           "u nan",
                           "u 0x1p-1",
                           "u 0.5.5",
@@ -115,6 +119,19 @@ TEST(Driver, WithoutACameraNoPictureIsWritten) {
   Session room;
   EXPECT_EQ(room("shot " + (room.data.path() / "x.png").string()).substr(0, 7), "error: ");
   EXPECT_TRUE(std::filesystem::is_empty(room.data.path()));
+}
+
+TEST(Driver, ALongLineIsRefusedAndNoAnswerRepeatsMuch) {
+  Session room;
+  const std::string most = "get " + std::string((64 << 10) - 4, 'x');
+  std::string wide = "x";
+  for (int i = 0; i < 60; ++i) wide += "\xC3\xA8";
+  std::istringstream in(most + "x\n" + most + '\n' + wide + "\nover " + most.substr(4, 300) + "\nscreen");
+  std::ostringstream out;
+  room.driver.run(in, out);
+  EXPECT_EQ(out.str(), "error: a line of more than 64 KiB\nerror: wrong number of words: get\n" +
+                           ("error: unknown command: " + wide.substr(0, 79)) +
+                           "\nerror: unknown control: " + std::string(80, 'x') + "\nFrameprincipale\n");
 }
 
 TEST(Driver, EndsOnItsLastCommand) {

@@ -1,3 +1,5 @@
+#include <sys/stat.h>
+
 #include "canvas.hpp"
 #include "driver/cairo_camera.hpp"
 #include "pictures/catalogue.hpp"
@@ -125,6 +127,9 @@ TEST(CairoCamera, WritesTheWindowAndEachPictureAtTheScale) {
   EXPECT_EQ(room.answer("shot " + lost).substr(0, 7), "error: ");
   EXPECT_EQ(room.answer("picture CONTPOK1 " + lost).substr(0, 7), "error: ");
   EXPECT_EQ(room.answer("shot " + file + " 0").substr(0, 7), "error: ");
+  ASSERT_EQ(mkfifo(file.c_str(), 0600), 0);  // to write to it would wait for its other end
+  EXPECT_EQ(room.answer("shot " + file).substr(0, 7), "error: ");
+  std::filesystem::remove(file);
   EXPECT_EQ(room.answer("start"), "ok") << "nothing of the above has started the room";
   EXPECT_EQ(room.answer("shot " + file), "ok");
   EXPECT_EQ(sizeOf(file), std::pair(792, 573));

@@ -2,9 +2,14 @@
 
 #include <algorithm>
 #include <array>
+#include <cerrno>
 #include <charconv>
+#include <cmath>
 #include <cstdlib>
+#include <filesystem>
 #include <fstream>
+#include <istream>
+#include <ostream>
 #include <utility>
 
 #include "driver/properties.hpp"
@@ -15,12 +20,23 @@ namespace tombolario {
 
 namespace {
 
-/// Why a command cannot be carried out.
+/// Why a command cannot be carried out: the reason, and the word of the command that it is about, if any.
 struct Refusal {
   std::string reason;
+  std::string_view word = {};
 };
 
+/// The word as an answer repeats it: the beginning of a long one, by whole characters of UTF-8.
+std::string_view shown(std::string_view word) {
+  constexpr std::size_t kMostShown = 80;
+  if (word.size() <= kMostShown) return word;
+  std::size_t end = kMostShown;
+  while (end > 0 && (static_cast<unsigned char>(word[end]) & 0xC0) == 0x80) --end;
+  return word.substr(0, end);
+}
+
 constexpr double kLargestScale = 16;
+constexpr std::size_t kLongestLine = std::size_t{64} << 10;
 /// Far outside the window one point is like another; this keeps sums of places inside an int.
 constexpr std::int64_t kFarthest = 1'000'000'000;
 
@@ -39,7 +55,7 @@ std::int64_t wholeNumber(const std::string& word) {
   std::int64_t number = 0;
   const char* end = word.data() + word.size();
   const auto [stopped, error] = std::from_chars(word.data(), end, number);
-  if (error != std::errc() || stopped != end) throw Refusal{"not a whole number: " + word};
+  if (error != std::errc() || stopped != end) throw Refusal{"not a whole number: ", word};
   return number;
 }
 
@@ -51,15 +67,17 @@ double number(const std::string& word) {
   // strtod alone would take "inf", "nan" and hexadecimal as well.
   const bool plain = word.find_first_not_of("0123456789.eE+-") == std::string::npos;
   char* stopped = nullptr;
+  errno = 0;
   const double value = std::strtod(word.c_str(), &stopped);
-  if (!plain || stopped != word.c_str() + word.size()) throw Refusal{"not a number: " + word};
+  if (!plain || stopped != word.c_str() + word.size()) throw Refusal{"not a number: ", word};
+  if (errno == ERANGE) throw Refusal{"a number too large or too small: ", word};
   return value;
 }
 
 double scaleIn(const std::vector<std::string>& words, std::size_t index) {
   if (words.size() <= index) return 1;
   const double scale = number(words[index]);
-  if (!(scale > 0 && scale <= kLargestScale)) throw Refusal{"no such scale: " + words[index]};
+  if (!(scale > 0 && scale <= kLargestScale)) throw Refusal{"no such scale: ", words[index]};
   return scale;
 }
 
@@ -67,7 +85,17 @@ MouseButton buttonIn(const std::vector<std::string>& words) {
   if (words.size() < 2 || words[1] == "left") return MouseButton::Left;
   if (words[1] == "right") return MouseButton::Right;
   if (words[1] == "middle") return MouseButton::Middle;
-  throw Refusal{"no such button: " + words[1]};
+  throw Refusal{"no such button: ", words[1]};
+}
+
+/// The next line, and no more of a long one than shows that it is too long. False at the end.
+bool readLine(std::istream& in, std::string& line) {
+  line.clear();
+  for (int c = in.get(); c != '\n'; c = in.get()) {
+    if (c == std::istream::traits_type::eof()) return !line.empty();
+    if (line.size() <= kLongestLine) line += static_cast<char>(c);
+  }
+  return true;
 }
 
 }  // namespace
@@ -82,11 +110,18 @@ double ScriptedSource::next() {
 Driver::Driver(Camera* camera, DataFiles& dataFiles) : host_(dataFiles), room_(host_), camera_(camera) {}
 
 std::string Driver::answer(std::string_view line) {
+  if (line.size() > kLongestLine) return "error: a line of more than 64 KiB";
+  const Words words = split(line);
   try {
-    return dispatch(split(line));
+    return dispatch(words);
   } catch (const Refusal& refusal) {
-    return "error: " + refusal.reason;
+    return ("error: " + refusal.reason).append(shown(refusal.word));
   }
+}
+
+void Driver::run(std::istream& in, std::ostream& out) {
+  std::string line;
+  while (!ended_ && readLine(in, line)) out << answer(line) << std::endl;
 }
 
 std::string Driver::dispatch(const Words& words) {
@@ -118,9 +153,9 @@ std::string Driver::dispatch(const Words& words) {
   if (words.empty()) throw Refusal{"no command"};
   const auto* command = std::find_if(kCommands.begin(), kCommands.end(),
                                      [&](const Command& known) { return known.name == words[0]; });
-  if (command == kCommands.end()) throw Refusal{"unknown command: " + words[0]};
+  if (command == kCommands.end()) throw Refusal{"unknown command: ", words[0]};
   const std::size_t given = words.size() - 1;
-  if (given < command->fewest || given > command->most) throw Refusal{"wrong number of words: " + words[0]};
+  if (given < command->fewest || given > command->most) throw Refusal{"wrong number of words: ", words[0]};
   return (this->*command->run)(words);
 }
 
@@ -134,7 +169,7 @@ Form& Driver::started() {
 
 Control& Driver::named(const std::string& name) {
   Control* control = room_.form().find(name);
-  if (control == nullptr) throw Refusal{"unknown control: " + name};
+  if (control == nullptr) throw Refusal{"unknown control: ", name};
   return *control;
 }
 
@@ -148,7 +183,7 @@ std::string Driver::queueNumbers(const Words& words) {
   std::vector<double> numbers;
   for (std::size_t i = 1; i < words.size(); ++i) {
     const double u = number(words[i]);
-    if (!(u >= 0 && u < 1)) throw Refusal{"not in [0,1): " + words[i]};
+    if (!(u >= 0 && u < 1) || std::signbit(u)) throw Refusal{"not in [0,1): ", words[i]};
     numbers.push_back(u);
   }
   host_.uniform().queue(numbers);
@@ -216,7 +251,7 @@ std::string Driver::screen(const Words&) {
 std::string Driver::get(const Words& words) {
   const Control& control = named(words[1]);
   const PropertyReader* property = findProperty(words[2]);
-  if (property == nullptr) throw Refusal{"unknown property: " + words[2]};
+  if (property == nullptr) throw Refusal{"unknown property: ", words[2]};
   started();
   return property->read(control);
 }
@@ -250,14 +285,19 @@ std::string Driver::dump(const Words&) {
 
 Camera& Driver::cameraFor(const std::string& file) {
   if (camera_ == nullptr) throw Refusal{"this build draws no pictures"};
-  if (!std::ofstream(file, std::ios::app)) throw Refusal{"cannot write " + file};
+  // To write to a pipe would wait for its other end.
+  std::error_code none;
+  const auto kind = std::filesystem::status(file, none).type();
+  const bool plain =
+      kind == std::filesystem::file_type::regular || kind == std::filesystem::file_type::not_found;
+  if (!plain || !std::ofstream(file, std::ios::app)) throw Refusal{"cannot write ", file};
   return *camera_;
 }
 
 std::string Driver::shot(const Words& words) {
   const double scale = scaleIn(words, 2);
   Camera& camera = cameraFor(words[1]);
-  if (!camera.shoot(started(), words[1], scale)) throw Refusal{"cannot write " + words[1]};
+  if (!camera.shoot(started(), words[1], scale)) throw Refusal{"cannot write ", words[1]};
   return "ok";
 }
 
@@ -276,11 +316,11 @@ std::string Driver::pictures(const Words&) {
 
 std::string Driver::picture(const Words& words) {
   const PictureId picture = pictures::find(words[1]);
-  if (!picture) throw Refusal{"unknown picture: " + words[1]};
+  if (!picture) throw Refusal{"unknown picture: ", words[1]};
   const double scale = scaleIn(words, 3);
   Camera& camera = cameraFor(words[2]);
   started();
-  if (!camera.shoot(picture, words[2], scale)) throw Refusal{"cannot write " + words[2]};
+  if (!camera.shoot(picture, words[2], scale)) throw Refusal{"cannot write ", words[2]};
   return "ok";
 }
 

@@ -2,6 +2,7 @@
 
 #include <cstdint>
 #include <deque>
+#include <iosfwd>
 #include <random>
 #include <string>
 #include <string_view>
@@ -47,7 +48,7 @@ class ScriptedHost : public Host {
 };
 
 /// The room by a line protocol: each command, one line, has one answer. A command that is not understood
-/// or names what is not there answers "error: ..." and changes nothing.
+/// or names what is not there answers "error: ..." and changes nothing; so does a line of more than 64 KiB.
 class Driver {
  public:
   /// Without a camera the commands that write pictures answer an error.
@@ -55,6 +56,8 @@ class Driver {
 
   /// The answer to a command: one line, or several of which the last is "."; no line break at the end.
   std::string answer(std::string_view line);
+  /// Answers the commands that come in, each at once, until the command to end or the last line.
+  void run(std::istream& in, std::ostream& out);
   /// True once the command to end has come.
   bool ended() const { return ended_; }
 

@@ -1,5 +1,4 @@
 #include <iostream>
-#include <string>
 
 #include "driver/driver.hpp"
 #include "shell/data_directory.hpp"
@@ -15,7 +14,5 @@ int main() {
 #else
   tombolario::Driver driver(nullptr, dataFiles);
 #endif
-  for (std::string line; !driver.ended() && std::getline(std::cin, line);) {
-    std::cout << driver.answer(line) << std::endl;
-  }
+  driver.run(std::cin, std::cout);
 }
