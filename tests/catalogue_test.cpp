@@ -6,6 +6,7 @@
 #include <string>
 #include <vector>
 
+#include "null_painter.hpp"
 #include "session.hpp"
 
 namespace tombolario {
@@ -107,6 +108,36 @@ TEST(Catalogue, HoldsEveryPictureAtItsSizeAndNoOther) {
   EXPECT_EQ(count, names.size());
   EXPECT_FALSE(pictures::find("Picture1(53)"));
   EXPECT_FALSE(pictures::find("Picture1"));
+}
+
+/// Every text that a picture draws, in its order.
+std::vector<std::string> textsOf(const PictureId& picture) {
+  struct Reader : NullPainter {
+    void text(const Rect&, std::string_view text, const Font&, Rgb, Align) override {
+      texts.emplace_back(text);
+    }
+    std::vector<std::string> texts;
+  } reader;
+  picture.draw(reader);
+  return reader.texts;
+}
+
+TEST(Catalogue, ThePayTablesTellWhatIsPaid) {
+  using Texts = std::vector<std::string>;
+  const Texts rows{"mano nulla", "-1", "coppia",      "0",  "doppia coppia", "2", "tris",         "4",
+                   "scala",      "5",  "full",        "7",  "colore",        "8", "colore rosso", "10",
+                   "poker",      "12", "scala reale", "15", "pokerissimo",   "18"};
+  const std::vector<int> tops{0, 290, 570, 800, 1050, 1310, 1560, 1810, 2070, 2330, 2560};
+  Session room;
+  EXPECT_EQ(textsOf(pictures::Pictcomvidpok), rows);
+  for (std::size_t k = 0; k < tops.size(); ++k) {
+    const auto row = rows.begin() + static_cast<std::ptrdiff_t>(2 * k);
+    EXPECT_EQ(textsOf({pictures::segn, static_cast<int>(k)}), Texts(row, row + 2));
+    EXPECT_EQ(room.get("segn(" + std::to_string(k) + ')', "Top"), std::to_string(tops[k]));
+  }
+  EXPECT_EQ(textsOf(pictures::Pictcompok),
+            (Texts{"coppia", "1", "doppia coppia", "2", "tris", "4", "scala", "5", "full", "7", "colore", "8",
+                   "poker", "10", "scala reale", "12"}));
 }
 
 TEST(Catalogue, HoldsWhatEveryControlShows) {

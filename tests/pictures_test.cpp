@@ -7,6 +7,7 @@
 #include "pictures/catalogue.hpp"
 #include "session.hpp"
 #include "shell/domino_set.hpp"
+#include "shell/pay_tables.hpp"
 
 namespace tombolario {
 namespace {
@@ -244,7 +245,6 @@ TEST(Pictures, TheKindsOfMahjonggAreToldApart) {
 
 /// The same picture, lit: nothing but the ground changes, so that a row does not jump when it is lit.
 TEST(Pictures, ALitRowLiesRightOnItsRowOfThePayTable) {
-  const std::vector<double> tops{0, 290, 570, 800, 1050, 1310, 1560, 1810, 2070, 2330, 2560};
   for (int test = 0; test < 33; ++test) {
     const int k = test % 11;
     const int step = test / 11;
@@ -253,8 +253,8 @@ TEST(Pictures, ALitRowLiesRightOnItsRowOfThePayTable) {
     pictures::find("Pictcomvidpok").draw(table.painter);
     const PictureId row(pictures::segn, k);
     Canvas lit({156, 191}, scale);
-    lit.painter.picture(row, {0, tops[static_cast<std::size_t>(k)] / 15}, false);
-    const int top = static_cast<int>(std::lround(tops[static_cast<std::size_t>(k)] / 15 * scale));
+    lit.painter.picture(row, {0, kPayTable[k].top / 15.0}, false);
+    const int top = static_cast<int>(std::lround(kPayTable[k].top / 15.0 * scale));
     int ink = 0;
     int moved = 0;
     for (int y = top + 1; y < top + static_cast<int>(14 * scale); ++y) {

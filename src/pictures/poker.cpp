@@ -1,9 +1,10 @@
 #include <array>
+#include <string>
 
 #include "pictures/catalogue.hpp"
 #include "pictures/lettering.hpp"
 #include "pictures/score_table.hpp"
-#include "shell/slots.hpp"
+#include "shell/pay_tables.hpp"
 
 namespace tombolario::pictures {
 
@@ -29,26 +30,15 @@ void drawSaucer(Painter& painter, int) {
   }
 }
 
-struct Combination {
-  const char* name;
-  const char* points;
-};
-constexpr Slots<Combination, 0, 7> kCombinations{{{{"coppia", "1"},
-                                                   {"doppia coppia", "2"},
-                                                   {"tris", "4"},
-                                                   {"scala", "5"},
-                                                   {"full", "7"},
-                                                   {"colore", "8"},
-                                                   {"poker", "10"},
-                                                   {"scala reale", "12"}}}};
 constexpr Size kCombinationsSize{150, 137};
 
 void drawCombinations(Painter& painter, int) {
   painter.fillRect({0, 0, kCombinationsSize.width, kCombinationsSize.height}, kBlue);
   Rect row{10, 4.5, kCombinationsSize.width - 20, 16};
   for (const auto& [name, points] : kCombinations) {
+    if (points == 0) continue;
     painter.text(row, name, lettering(9.5), kWhite, Align::Left);
-    painter.text(row, points, lettering(9.5), kWhite, Align::Right);
+    painter.text(row, std::to_string(points), lettering(9.5), kWhite, Align::Right);
     row.y += 16;
   }
 }

@@ -1,51 +1,50 @@
+#include <string>
+
 #include "pictures/catalogue.hpp"
 #include "pictures/lettering.hpp"
-#include "shell/slots.hpp"
+#include "shell/pay_tables.hpp"
 
 namespace tombolario::pictures {
 
 namespace {
 
-/// A row of the pay table. `top` is the place of its lit picture in the table and `middle` that of its
-/// text in the row, in pixels: the tops are uneven, the lines of text are not. A lit row is 17 to 20 pixels
-/// high and may reach a little under the next one.
-struct PayRow {
-  const char* name;
-  const char* amount;
-  double top;
+/// A lit row is 17 to 20 pixels high and may reach a little under the next one. The lines of text are even,
+/// the tops of the rows are not: `middle` is where the text of a row is, in pixels from its top.
+struct LitRow {
   double middle;
   int height;
 };
-constexpr Slots<PayRow, 0, 10> kPayRows{{{{"mano nulla", "-1", 0, 9, 19},
-                                          {"coppia", "0", 290 / 15.0, 7.7, 19},
-                                          {"doppia coppia", "2", 38, 6.9, 17},
-                                          {"tris", "4", 800 / 15.0, 8.5, 17},
-                                          {"scala", "5", 70, 8.6, 17},
-                                          {"full", "7", 1310 / 15.0, 8.3, 17},
-                                          {"colore", "8", 104, 8.5, 17},
-                                          {"colore rosso", "10", 1810 / 15.0, 8.8, 17},
-                                          {"poker", "12", 138, 8.5, 17},
-                                          {"scala reale", "15", 2330 / 15.0, 8.2, 17},
-                                          {"pokerissimo", "18", 2560 / 15.0, 10.3, 20}}}};
+constexpr Slots<LitRow, 0, 10> kLitRows{{{{9, 19},
+                                          {7.7, 19},
+                                          {6.9, 17},
+                                          {8.5, 17},
+                                          {8.6, 17},
+                                          {8.3, 17},
+                                          {8.5, 17},
+                                          {8.8, 17},
+                                          {8.5, 17},
+                                          {8.2, 17},
+                                          {10.3, 20}}}};
 
 constexpr Size kPayTableSize{156, 191};
 
 Size litRowSize(int row) {
   const int width = row >= 3 && row <= 9 ? 167 : kPayTableSize.width;
-  return {width, kPayRows[row].height};
+  return {width, kLitRows[row].height};
 }
 
-void drawPayRow(Painter& painter, const PayRow& row) {
-  const Rect box{10, row.middle - 8, kPayTableSize.width - 20, 16};
+void drawPayRow(Painter& painter, int row) {
+  const Rect box{10, kLitRows[row].middle - 8, kPayTableSize.width - 20, 16};
   const Font font = lettering(9.5);
-  painter.text(box, row.name, font, kWhite, Align::Left);
-  painter.text(box, row.amount, font, kWhite, Align::Right);
+  painter.text(box, kPayTable[row].name, font, kWhite, Align::Left);
+  painter.text(box, std::to_string(kPayTable[row].amount), font, kWhite, Align::Right);
 }
 
 void drawPayTable(Painter& painter, int) {
   painter.fillRect({0, 0, kPayTableSize.width, kPayTableSize.height}, kRed);
-  for (const PayRow& row : kPayRows) {
-    painter.enter({0, row.top, kPayTableSize.width, static_cast<double>(row.height)});
+  for (int row = 0; row <= 10; ++row) {
+    const double top = kPayTable[row].top / double{kTwipsPerPixel};
+    painter.enter({0, top, kPayTableSize.width, static_cast<double>(kLitRows[row].height)});
     drawPayRow(painter, row);
     painter.leave();
   }
@@ -54,7 +53,7 @@ void drawPayTable(Painter& painter, int) {
 void drawLitRow(Painter& painter, int row) {
   const Size size = litRowSize(row);
   painter.fillRect({0, 0, static_cast<double>(size.width), static_cast<double>(size.height)}, kBlue);
-  drawPayRow(painter, kPayRows[row]);
+  drawPayRow(painter, row);
 }
 
 /// Vertical stripes, twelve pixels each.

@@ -1,12 +1,10 @@
 #include "poker/award.hpp"
 
-#include "shell/slots.hpp"
+#include "shell/pay_tables.hpp"
 
 namespace tombolario::poker {
 
 namespace {
-
-constexpr Numbers<0, kClasses - 1> kPoints{0, 1, 2, 4, 5, 7, 8, 10, 12};
 
 template <class Number>
 Side higher(const Number& player, const Number& computer) {
@@ -32,7 +30,7 @@ Side winner(const Classification& classehum, const Classification& classecom, Le
 }
 
 std::int16_t points(const Classification& hand, Counting counting) {
-  return counting == Counting::ByHand ? std::int16_t{1} : kPoints[hand.kind];
+  return counting == Counting::ByHand ? std::int16_t{1} : kCombinations[hand.kind].points;
 }
 
 std::int16_t limit(Counting counting) { return counting == Counting::ByHand ? 15 : 40; }

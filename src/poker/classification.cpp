@@ -3,6 +3,7 @@
 #include <utility>
 
 #include "shell/cards.hpp"
+#include "shell/pay_tables.hpp"
 
 namespace tombolario::poker {
 
@@ -75,20 +76,16 @@ Classification classify(const Hand& hand) {
 }
 
 std::string Classification::text() const {
+  const std::string name = kCombinations[kind].name;
   const std::string first = letterOf(confrontopok[0]);
-  const std::string both = first + '/' + letterOf(confrontopok[1]);
   switch (kind) {
-    case kNothing: return " ";
-    case kPair: return "coppia   " + first;
-    case kTwoPairs: return "doppia coppia   " + both;
-    case kThree: return "tris   " + first;
-    case kStraight: return "scala";
-    case kFull: return "full   " + both;
-    case kFlush: return "colore";
-    case kFour: return "poker   " + first;
-    case kStraightFlush: return "scala reale";
+    case kPair:
+    case kThree:
+    case kFour: return name + "   " + first;
+    case kTwoPairs:
+    case kFull: return name + "   " + first + '/' + letterOf(confrontopok[1]);
+    default: return name;
   }
-  return {};
 }
 
 Part partOf(const Classification& hand, std::int16_t value) {

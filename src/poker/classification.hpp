@@ -8,8 +8,6 @@
 
 namespace tombolario::poker {
 
-inline constexpr int kClasses = 9;
-
 /// The classes of a hand, from the worst to the best. A flush beats a full house, and a straight flush is
 /// one at any height.
 enum HandClass {

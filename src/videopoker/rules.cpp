@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <limits>
 
+#include "shell/pay_tables.hpp"
+
 namespace tombolario::videopoker {
 
 namespace {
@@ -69,7 +71,7 @@ Hand VideoPoker::hand() const {
 }
 
 void VideoPoker::pay(Row row) {
-  const int sum = saldoVP + kPay[row];
+  const int sum = saldoVP + kPayTable[row].amount;
   saldoVP = static_cast<std::int16_t>(std::min<int>(sum, std::numeric_limits<std::int16_t>::max()));
 }
 

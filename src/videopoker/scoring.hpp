@@ -28,9 +28,6 @@ enum Row {
   kFive
 };
 
-/// What each row adds to the balance.
-inline constexpr std::array<std::int16_t, kRows> kPay{-1, 0, 2, 4, 5, 7, 8, 10, 12, 15, 18};
-
 /// What the recognition of a hand finds.
 struct Scoring {
   std::array<bool, kRows> lit{};           ///< the rows of the pay table; exactly one is lit

@@ -5,6 +5,7 @@
 #include "shell/controls.hpp"
 #include "shell/form.hpp"
 #include "shell/host.hpp"
+#include "shell/pay_tables.hpp"
 #include "shell/record_file.hpp"
 #include "shell/screens.hpp"
 #include "videopoker/rules.hpp"
@@ -59,11 +60,10 @@ class Table {
   PictureBox Pictcomvidpok{Frame3BIS, "Pictcomvidpok", {7320, 5040, 2370, 2895},
                            {.back = kRed, .border = Border::Single, .picture = pictures::Pictcomvidpok}};
   ControlArray<PictureBox, 0, 10> segn{[this](int k) {
-    constexpr Slots<int, 0, 10> kTops{0, 290, 570, 800, 1050, 1310, 1560, 1810, 2070, 2330, 2560};
     const PictureId row(pictures::segn, k);
     const auto [width, height] = row.size();
     return PictureBox{Pictcomvidpok, {"segn", k},
-                      {0, kTops[k], width * kTwipsPerPixel, height * kTwipsPerPixel},
+                      {0, kPayTable[k].top, width * kTwipsPerPixel, height * kTwipsPerPixel},
                       {.picture = row, .visible = false}}; }};
   // clang-format on
 
