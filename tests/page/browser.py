@@ -10,7 +10,7 @@ from selenium import webdriver
 from selenium.webdriver.chrome.service import Service
 
 PATIENCE = 10  # seconds
-BITS = {'left': 1, 'right': 2, 'middle': 4}
+BITS = {'left': 1, 'right': 2, 'middle': 4, 'back': 8, 'forward': 16}
 
 
 class Handler(http.server.SimpleHTTPRequestHandler):
