@@ -233,14 +233,21 @@ TEST_F(RecordFileTest, AKilledProgramLeavesTheOldNumbersOrTheNewOnes) {
     writeFile(path, contentOf(path).substr(0, engine() % 160));
     const auto before = stored();
     const int first = times % 300 * 100;  // of the numbers that this child stores
+    std::array<int, 2> ready{};
+    ASSERT_EQ(pipe(ready.data()), 0);
     const pid_t child = fork();
     if (child == 0) {
+      if (::write(ready[1], "", 1) != 1) _exit(1);
       for (int i = 0;; i = (i + 1) % 100) {
         const auto number = static_cast<std::int16_t>(first + i);
         if (!store(number, static_cast<std::int16_t>(-number))) _exit(1);
       }
     }
     ASSERT_GT(child, 0);
+    char byte = 0;
+    EXPECT_EQ(::read(ready[0], &byte, 1), 1);
+    close(ready[0]);
+    close(ready[1]);
     usleep(static_cast<useconds_t>(engine() % 1500));
     kill(child, SIGKILL);
     int status = 0;

@@ -76,7 +76,7 @@ Classification classify(const Hand& hand) {
 }
 
 std::string Classification::text() const {
-  const std::string name = kCombinations[kind].name;
+  std::string name = kCombinations[kind].name;
   const std::string first = letterOf(confrontopok[0]);
   switch (kind) {
     case kPair:
