@@ -2,9 +2,9 @@
 
 #include <filesystem>
 
-#include "shell/clock_source.hpp"
-#include "shell/data_directory.hpp"
-#include "shell/host.hpp"
+#include "host/clock_source.hpp"
+#include "host/data_directory.hpp"
+#include "host/host.hpp"
 
 namespace tombolario {
 

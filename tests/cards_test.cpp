@@ -1,4 +1,4 @@
-#include "shell/cards.hpp"
+#include "pieces/cards.hpp"
 
 #include <gtest/gtest.h>
 
@@ -10,10 +10,10 @@
 #include "chain/rules.hpp"
 #include "domino/rules.hpp"
 #include "driver/driver.hpp"
+#include "host/clock_source.hpp"
 #include "mahjongg/rules.hpp"
 #include "poker/rules.hpp"
 #include "ramino/rules.hpp"
-#include "shell/clock_source.hpp"
 #include "videopoker/rules.hpp"
 
 namespace tombolario {

@@ -1,12 +1,12 @@
-#include "shell/form.hpp"
+#include "toolkit/form.hpp"
 
 #include <gtest/gtest.h>
 
 #include <string>
 
 #include "null_painter.hpp"
-#include "shell/controls.hpp"
-#include "shell/marks.hpp"
+#include "toolkit/controls.hpp"
+#include "toolkit/marks.hpp"
 
 namespace tombolario {
 namespace {

@@ -6,9 +6,9 @@
 #include <string_view>
 
 #include "pictures/catalogue.hpp"
-#include "shell/chain_set.hpp"
-#include "shell/domino_set.hpp"
-#include "shell/mahjongg_set.hpp"
+#include "pieces/chain_set.hpp"
+#include "pieces/domino_set.hpp"
+#include "pieces/mahjongg_set.hpp"
 
 namespace tombolario {
 

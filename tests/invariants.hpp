@@ -6,7 +6,7 @@
 #include <string>
 #include <vector>
 
-#include "shell/form.hpp"
+#include "toolkit/form.hpp"
 
 namespace tombolario {
 

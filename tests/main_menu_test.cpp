@@ -1,5 +1,5 @@
 #include "session.hpp"
-#include "shell/view.hpp"
+#include "toolkit/view.hpp"
 
 namespace tombolario {
 namespace {

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "shell/painter.hpp"
-#include "shell/picture.hpp"
+#include "toolkit/painter.hpp"
+#include "toolkit/picture.hpp"
 
 namespace tombolario {
 

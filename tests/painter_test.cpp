@@ -4,8 +4,8 @@
 #include "driver/cairo_camera.hpp"
 #include "pictures/catalogue.hpp"
 #include "session.hpp"
-#include "shell/caption.hpp"
-#include "shell/controls.hpp"
+#include "toolkit/caption.hpp"
+#include "toolkit/controls.hpp"
 
 namespace tombolario {
 namespace {

@@ -5,9 +5,9 @@
 
 #include "canvas.hpp"
 #include "pictures/catalogue.hpp"
+#include "pieces/domino_set.hpp"
+#include "pieces/pay_tables.hpp"
 #include "session.hpp"
-#include "shell/domino_set.hpp"
-#include "shell/pay_tables.hpp"
 
 namespace tombolario {
 namespace {

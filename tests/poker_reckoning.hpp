@@ -8,7 +8,7 @@
 #include <string>
 #include <vector>
 
-#include "shell/hand.hpp"
+#include "pieces/hand.hpp"
 
 /// Poker against the computer by its plain description, to hold the game against. Cards are numbers, 0 to 51.
 namespace tombolario::reckoning {

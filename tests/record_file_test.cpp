@@ -1,4 +1,4 @@
-#include "shell/record_file.hpp"
+#include "host/record_file.hpp"
 
 #include <sys/inotify.h>
 #include <sys/resource.h>

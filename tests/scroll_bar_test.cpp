@@ -1,8 +1,8 @@
-#include "shell/scroll_bar.hpp"
+#include "toolkit/scroll_bar.hpp"
 
 #include <gtest/gtest.h>
 
-#include "shell/form.hpp"
+#include "toolkit/form.hpp"
 
 namespace tombolario {
 namespace {

@@ -9,7 +9,7 @@
 #include <string_view>
 
 #include "driver/driver.hpp"
-#include "shell/data_directory.hpp"
+#include "host/data_directory.hpp"
 
 namespace tombolario {
 

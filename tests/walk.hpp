@@ -7,7 +7,7 @@
 
 #include "driver/driver.hpp"
 #include "invariants.hpp"
-#include "shell/view.hpp"
+#include "toolkit/view.hpp"
 #include "watched_files.hpp"
 
 namespace tombolario {

@@ -2,8 +2,8 @@
 
 #include <filesystem>
 
-#include "shell/data_directory.hpp"
-#include "shell/form.hpp"
+#include "host/data_directory.hpp"
+#include "toolkit/form.hpp"
 
 namespace tombolario {
 

@@ -4,8 +4,6 @@
 #include <limits>
 #include <utility>
 
-#include "shell/cards.hpp"
-
 namespace tombolario::chain {
 
 namespace {
@@ -42,8 +40,7 @@ int State::links() const {
 void Chain::avviocatena(UniformSource& uniform) {
   s_.scambicat = 0;
   s_.segnacat = s_.scambiocat = {};
-  uniform.seedFromClock();
-  mescola(uniform, s_.pescatecat, 0, kDrawn - 1, kChainTiles);
+  deal(uniform, s_.pescatecat, 0, kDrawn - 1, kChainTiles);
   s_.dealt = true;
 }
 

@@ -2,9 +2,9 @@
 
 #include <cstdint>
 
-#include "shell/chain_set.hpp"
-#include "shell/host.hpp"
-#include "shell/slots.hpp"
+#include "pieces/chain_set.hpp"
+#include "pieces/chance.hpp"
+#include "pieces/slots.hpp"
 
 namespace tombolario::chain {
 

@@ -2,7 +2,7 @@
 
 #include <numbers>
 
-#include "shell/typeface.hpp"
+#include "toolkit/typeface.hpp"
 
 namespace tombolario {
 

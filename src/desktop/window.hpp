@@ -7,10 +7,10 @@
 #include <stdexcept>
 
 #include "desktop/cairo_painter.hpp"
+#include "host/clock_source.hpp"
+#include "host/data_directory.hpp"
 #include "room/room.hpp"
-#include "shell/clock_source.hpp"
-#include "shell/data_directory.hpp"
-#include "shell/view.hpp"
+#include "toolkit/view.hpp"
 
 namespace tombolario {
 

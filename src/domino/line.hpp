@@ -3,7 +3,7 @@
 #include <cstdint>
 #include <optional>
 
-#include "shell/domino_set.hpp"
+#include "pieces/domino_set.hpp"
 
 namespace tombolario::domino {
 

@@ -2,8 +2,6 @@
 
 #include <algorithm>
 
-#include "shell/cards.hpp"
-
 namespace tombolario::domino {
 
 namespace {
@@ -24,8 +22,7 @@ void Domino::inizioDOMINO(UniformSource& uniform) {
   s_.posatecomdom = 1;
   s_.computerToMove = false;
   s_.result = Result::None;
-  uniform.seedFromClock();
-  mescola(uniform, s_.mischiadom, 0, kTiles - 1, kTiles);
+  deal(uniform, s_.mischiadom, 0, kTiles - 1, kTiles);
   for (int slot = 0; slot < kTiles; ++slot) {
     s_.numdom[slot] = kFaceNumbers[s_.mischiadom[slot]];
     s_.numdom[slot + kTiles] = kFaceNumbers[s_.mischiadom[slot] + kTiles];

@@ -5,7 +5,7 @@
 
 #include "domino/computer.hpp"
 #include "domino/line.hpp"
-#include "shell/host.hpp"
+#include "pieces/chance.hpp"
 
 namespace tombolario::domino {
 

@@ -2,7 +2,7 @@
 
 #include <string>
 
-#include "shell/cursors.hpp"
+#include "toolkit/cursors.hpp"
 
 namespace tombolario::domino {
 

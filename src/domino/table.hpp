@@ -1,13 +1,13 @@
 #pragma once
 
 #include "domino/rules.hpp"
+#include "host/host.hpp"
 #include "pictures/catalogue.hpp"
-#include "shell/control_array.hpp"
-#include "shell/controls.hpp"
-#include "shell/form.hpp"
-#include "shell/host.hpp"
-#include "shell/screens.hpp"
-#include "shell/scroll_bar.hpp"
+#include "toolkit/control_array.hpp"
+#include "toolkit/controls.hpp"
+#include "toolkit/form.hpp"
+#include "toolkit/screens.hpp"
+#include "toolkit/scroll_bar.hpp"
 
 namespace tombolario::domino {
 

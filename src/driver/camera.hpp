@@ -2,8 +2,8 @@
 
 #include <string>
 
-#include "shell/form.hpp"
-#include "shell/picture.hpp"
+#include "toolkit/form.hpp"
+#include "toolkit/picture.hpp"
 
 namespace tombolario {
 

@@ -14,7 +14,7 @@
 
 #include "driver/properties.hpp"
 #include "pictures/catalogue.hpp"
-#include "shell/scroll_bar.hpp"
+#include "toolkit/scroll_bar.hpp"
 
 namespace tombolario {
 

@@ -9,8 +9,8 @@
 #include <vector>
 
 #include "driver/camera.hpp"
+#include "host/clock_source.hpp"
 #include "room/room.hpp"
-#include "shell/clock_source.hpp"
 
 namespace tombolario {
 

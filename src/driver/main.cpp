@@ -1,7 +1,7 @@
 #include <iostream>
 
 #include "driver/driver.hpp"
-#include "shell/data_directory.hpp"
+#include "host/data_directory.hpp"
 #ifdef TOMBOLARIO_DRAWS
 #include "driver/cairo_camera.hpp"
 #endif

@@ -4,7 +4,7 @@
 #include <string>
 #include <string_view>
 
-#include "shell/control.hpp"
+#include "toolkit/control.hpp"
 
 namespace tombolario {
 

@@ -2,8 +2,6 @@
 
 #include <algorithm>
 
-#include "shell/cards.hpp"
-
 namespace tombolario::mahjongg {
 
 namespace {
@@ -13,11 +11,10 @@ constexpr std::int16_t kOfAKind = 4;
 }  // namespace
 
 void Mahjongg::avvioMAH(UniformSource& uniform) {
-  uniform.seedFromClock();
   std::fill(standing_.begin(), standing_.end(), true);
   std::fill(left_.begin(), left_.end(), kOfAKind);
   selmah = 0;
-  mescola(uniform, ordinemah, 0, kCells - 1, kCells);
+  deal(uniform, ordinemah, 0, kCells - 1, kCells);
   for (int cell = 1; cell <= kCells; ++cell)
     tipomah[cell] = static_cast<std::int16_t>(kindOfPiece(piece(cell)));
 }

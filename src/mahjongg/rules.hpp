@@ -3,9 +3,9 @@
 #include <cstdint>
 #include <optional>
 
-#include "shell/host.hpp"
-#include "shell/mahjongg_set.hpp"
-#include "shell/slots.hpp"
+#include "pieces/chance.hpp"
+#include "pieces/mahjongg_set.hpp"
+#include "pieces/slots.hpp"
 
 namespace tombolario::mahjongg {
 

@@ -1,4 +1,4 @@
-#include "shell/cards.hpp"
+#include "pieces/cards.hpp"
 
 #include <array>
 #include <cmath>

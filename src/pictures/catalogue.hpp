@@ -2,7 +2,7 @@
 
 #include <span>
 
-#include "shell/picture.hpp"
+#include "toolkit/picture.hpp"
 
 /// Every picture of the room, by the name of the store that holds it and its index there. All are drawn
 /// by code at their own size in pixels, so that they stay sharp at any scale.

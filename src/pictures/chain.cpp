@@ -1,4 +1,4 @@
-#include "shell/chain_set.hpp"
+#include "pieces/chain_set.hpp"
 
 #include <array>
 #include <string>

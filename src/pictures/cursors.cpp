@@ -2,7 +2,7 @@
 #include <span>
 
 #include "pictures/catalogue.hpp"
-#include "shell/painter.hpp"
+#include "toolkit/painter.hpp"
 
 namespace tombolario::pictures {
 

@@ -1,7 +1,7 @@
 #include "pictures/catalogue.hpp"
 #include "pictures/lettering.hpp"
 #include "pictures/score_table.hpp"
-#include "shell/domino_set.hpp"
+#include "pieces/domino_set.hpp"
 
 namespace tombolario::pictures {
 

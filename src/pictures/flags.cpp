@@ -1,7 +1,7 @@
 #include <array>
 
 #include "pictures/catalogue.hpp"
-#include "shell/painter.hpp"
+#include "toolkit/painter.hpp"
 
 namespace tombolario::pictures {
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "shell/painter.hpp"
+#include "toolkit/painter.hpp"
 
 namespace tombolario::pictures {
 

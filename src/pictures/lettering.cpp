@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "shell/caption.hpp"
+#include "toolkit/caption.hpp"
 
 namespace tombolario::pictures {
 

@@ -4,8 +4,8 @@
 #include <cstddef>
 #include <string_view>
 
-#include "shell/painter.hpp"
-#include "shell/picture.hpp"
+#include "toolkit/painter.hpp"
+#include "toolkit/picture.hpp"
 
 namespace tombolario::pictures {
 

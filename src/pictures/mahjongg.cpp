@@ -5,8 +5,8 @@
 
 #include "pictures/catalogue.hpp"
 #include "pictures/lettering.hpp"
-#include "shell/mahjongg_set.hpp"
-#include "shell/slots.hpp"
+#include "pieces/mahjongg_set.hpp"
+#include "pieces/slots.hpp"
 
 namespace tombolario::pictures {
 

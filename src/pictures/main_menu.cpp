@@ -3,7 +3,7 @@
 
 #include "pictures/catalogue.hpp"
 #include "pictures/lettering.hpp"
-#include "shell/slots.hpp"
+#include "pieces/slots.hpp"
 
 namespace tombolario::pictures {
 

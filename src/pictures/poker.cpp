@@ -4,7 +4,7 @@
 #include "pictures/catalogue.hpp"
 #include "pictures/lettering.hpp"
 #include "pictures/score_table.hpp"
-#include "shell/pay_tables.hpp"
+#include "pieces/pay_tables.hpp"
 
 namespace tombolario::pictures {
 

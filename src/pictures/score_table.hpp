@@ -1,6 +1,6 @@
 #pragma once
 
-#include "shell/painter.hpp"
+#include "toolkit/painter.hpp"
 
 /// The score tables: 81 pixels high, a column of 101 pixels for the names of the sides, "COMPUTER" above
 /// "HUMAN", then 64 for each column of values. The values are labels that lie on the table.

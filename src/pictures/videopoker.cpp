@@ -2,7 +2,7 @@
 
 #include "pictures/catalogue.hpp"
 #include "pictures/lettering.hpp"
-#include "shell/pay_tables.hpp"
+#include "pieces/pay_tables.hpp"
 
 namespace tombolario::pictures {
 

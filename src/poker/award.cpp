@@ -1,6 +1,6 @@
 #include "poker/award.hpp"
 
-#include "shell/pay_tables.hpp"
+#include "pieces/pay_tables.hpp"
 
 namespace tombolario::poker {
 

@@ -2,8 +2,8 @@
 
 #include <utility>
 
-#include "shell/cards.hpp"
-#include "shell/pay_tables.hpp"
+#include "pieces/cards.hpp"
+#include "pieces/pay_tables.hpp"
 
 namespace tombolario::poker {
 

@@ -4,7 +4,7 @@
 #include <cstdint>
 #include <string>
 
-#include "shell/hand.hpp"
+#include "pieces/hand.hpp"
 
 namespace tombolario::poker {
 

@@ -14,9 +14,8 @@ void Poker::begin() {
 }
 
 void Poker::avvioPOKER(UniformSource& uniform) {
-  uniform.seedFromClock();
   classehum = classecom = {};
-  mescola(uniform, mazzopok, 0, kDealt - 1, kPack);
+  deal(uniform, mazzopok, 0, kDealt - 1, kPack);
   for (int slot = 0; slot < kPack; ++slot) {
     cartavalpok[slot] = valorepok[card(slot)];
     cartasemepok[slot] = semepok[card(slot)];

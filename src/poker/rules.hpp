@@ -2,11 +2,11 @@
 
 #include <cstdint>
 
+#include "pieces/cards.hpp"
+#include "pieces/chance.hpp"
 #include "poker/award.hpp"
 #include "poker/classification.hpp"
 #include "poker/draw.hpp"
-#include "shell/cards.hpp"
-#include "shell/host.hpp"
 
 namespace tombolario::poker {
 

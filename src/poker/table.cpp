@@ -2,8 +2,8 @@
 
 #include <string>
 
-#include "shell/cursors.hpp"
-#include "shell/marks.hpp"
+#include "toolkit/cursors.hpp"
+#include "toolkit/marks.hpp"
 
 namespace tombolario::poker {
 
@@ -101,7 +101,7 @@ void Table::Command33_Click() {
 }
 
 void Table::changePlayer() {
-  const auto from = game_.changePlayer(marksOf(Frame11));
+  const auto from = game_.changePlayer(marksOf<Marks>(Frame11));
   for (int i = 0; i < kHandSize; ++i) {
     Pictt[i].Picture = Pictt[from[i]].Picture;
     Command22[i].Visible = false;

@@ -1,7 +1,7 @@
 #include "ramino/analysis.hpp"
 
+#include "pieces/cards.hpp"
 #include "ramino/tris.hpp"
-#include "shell/cards.hpp"
 
 namespace tombolario::ramino {
 

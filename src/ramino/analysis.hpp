@@ -2,8 +2,8 @@
 
 #include <cstdint>
 
+#include "pieces/slots.hpp"
 #include "ramino/positions.hpp"
-#include "shell/slots.hpp"
 
 namespace tombolario::ramino {
 

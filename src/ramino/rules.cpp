@@ -19,14 +19,13 @@ constexpr int firstOfTriple(int card) { return card - card % kTriple; }
 void Ramino::begin() { s_.vintiUmanoRam = s_.vintiCompRam = 0; }
 
 void Ramino::avvioRAM(UniformSource& uniform) {
-  uniform.seedFromClock();
   s_.phase = Phase::ToDraw;
   s_.result = Result::None;
   s_.nScartiRam = 0;
   s_.selRam = 0;
   s_.cimaRam = kStockFirst;
   s_.marking = {};
-  mescola(uniform, s_.mazzoRam, 0, kDealt - 1, kPack);
+  deal(uniform, s_.mazzoRam, 0, kDealt - 1, kPack);
 }
 
 void Ramino::freeFrames() {

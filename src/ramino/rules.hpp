@@ -2,10 +2,10 @@
 
 #include <cstdint>
 
+#include "pieces/cards.hpp"
+#include "pieces/chance.hpp"
 #include "ramino/analysis.hpp"
 #include "ramino/positions.hpp"
-#include "shell/cards.hpp"
-#include "shell/host.hpp"
 
 namespace tombolario::ramino {
 

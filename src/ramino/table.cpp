@@ -3,8 +3,8 @@
 #include <initializer_list>
 #include <string>
 
-#include "shell/cursors.hpp"
-#include "shell/marks.hpp"
+#include "toolkit/cursors.hpp"
+#include "toolkit/marks.hpp"
 
 namespace tombolario::ramino {
 

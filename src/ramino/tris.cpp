@@ -2,7 +2,7 @@
 
 #include <cstdlib>
 
-#include "shell/cards.hpp"
+#include "pieces/cards.hpp"
 
 namespace tombolario::ramino {
 

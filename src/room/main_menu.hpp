@@ -1,11 +1,11 @@
 #pragma once
 
+#include "host/host.hpp"
 #include "pictures/catalogue.hpp"
-#include "shell/control_array.hpp"
-#include "shell/controls.hpp"
-#include "shell/form.hpp"
-#include "shell/host.hpp"
-#include "shell/screens.hpp"
+#include "toolkit/control_array.hpp"
+#include "toolkit/controls.hpp"
+#include "toolkit/form.hpp"
+#include "toolkit/screens.hpp"
 
 namespace tombolario {
 

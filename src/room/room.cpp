@@ -9,7 +9,7 @@
 #include "poker/table.hpp"
 #include "ramino/table.hpp"
 #include "room/main_menu.hpp"
-#include "shell/cursors.hpp"
+#include "toolkit/cursors.hpp"
 #include "videopoker/table.hpp"
 
 namespace tombolario {

@@ -2,8 +2,8 @@
 
 #include <memory>
 
-#include "shell/form.hpp"
-#include "shell/host.hpp"
+#include "host/host.hpp"
+#include "toolkit/form.hpp"
 
 namespace tombolario {
 

@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <limits>
 
-#include "shell/pay_tables.hpp"
+#include "pieces/pay_tables.hpp"
 
 namespace tombolario::videopoker {
 
@@ -44,8 +44,7 @@ bool VideoPoker::goOn() {
 }
 
 bool VideoPoker::avvioVIDEO(UniformSource& uniform) {
-  uniform.seedFromClock();
-  mescola(uniform, mazzoVP, 0, kShuffled - 1, kCards);
+  deal(uniform, mazzoVP, 0, kShuffled - 1, kCards);
   ++maniVP;
   for (int slot = 0; slot < kSlots; ++slot) {
     valoreVP[slot] = valoreCartaVP[card(slot)];

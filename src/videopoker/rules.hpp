@@ -2,8 +2,8 @@
 
 #include <cstdint>
 
-#include "shell/cards.hpp"
-#include "shell/host.hpp"
+#include "pieces/cards.hpp"
+#include "pieces/chance.hpp"
 #include "videopoker/scoring.hpp"
 
 namespace tombolario::videopoker {

@@ -3,7 +3,7 @@
 #include <array>
 #include <cstdint>
 
-#include "shell/hand.hpp"
+#include "pieces/hand.hpp"
 
 namespace tombolario::videopoker {
 

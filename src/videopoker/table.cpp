@@ -2,8 +2,8 @@
 
 #include <string>
 
-#include "shell/cursors.hpp"
-#include "shell/marks.hpp"
+#include "toolkit/cursors.hpp"
+#include "toolkit/marks.hpp"
 
 namespace tombolario::videopoker {
 
@@ -94,7 +94,7 @@ void Table::Command3_Click() {
 }
 
 void Table::changeMarkedCards() {
-  const auto from = game_.change(marksOf(Frame1));
+  const auto from = game_.change(marksOf<Marks>(Frame1));
   for (int i = 0; i < kHandSize; ++i) Pict[i].Picture = Pict[from[i]].Picture;
 }
 

@@ -1,13 +1,13 @@
 #pragma once
 
+#include "host/host.hpp"
+#include "host/record_file.hpp"
 #include "pictures/catalogue.hpp"
-#include "shell/control_array.hpp"
-#include "shell/controls.hpp"
-#include "shell/form.hpp"
-#include "shell/host.hpp"
-#include "shell/pay_tables.hpp"
-#include "shell/record_file.hpp"
-#include "shell/screens.hpp"
+#include "pieces/pay_tables.hpp"
+#include "toolkit/control_array.hpp"
+#include "toolkit/controls.hpp"
+#include "toolkit/form.hpp"
+#include "toolkit/screens.hpp"
 #include "videopoker/rules.hpp"
 
 namespace tombolario::videopoker {

@@ -3,7 +3,7 @@
 #include <optional>
 #include <vector>
 
-#include "shell/records.hpp"
+#include "host/records.hpp"
 
 namespace tombolario {
 

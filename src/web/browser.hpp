@@ -1,7 +1,7 @@
 #pragma once
 
-#include "shell/clock_source.hpp"
-#include "shell/host.hpp"
+#include "host/clock_source.hpp"
+#include "host/host.hpp"
 
 namespace tombolario {
 

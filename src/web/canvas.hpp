@@ -3,7 +3,7 @@
 #include <cstddef>
 #include <utility>
 
-#include "shell/colour.hpp"
+#include "toolkit/colour.hpp"
 
 namespace tombolario {
 

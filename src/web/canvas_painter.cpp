@@ -1,6 +1,6 @@
 #include "web/canvas_painter.hpp"
 
-#include "shell/typeface.hpp"
+#include "toolkit/typeface.hpp"
 
 namespace tombolario {
 

@@ -2,10 +2,10 @@
 
 #include <vector>
 
-#include "shell/painter.hpp"
-#include "shell/picture.hpp"
-#include "shell/picture_cache.hpp"
-#include "shell/pixel_grid.hpp"
+#include "toolkit/painter.hpp"
+#include "toolkit/picture.hpp"
+#include "toolkit/picture_cache.hpp"
+#include "toolkit/pixel_grid.hpp"
 #include "web/canvas.hpp"
 
 namespace tombolario {

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "shell/form.hpp"
-#include "shell/view.hpp"
+#include "toolkit/form.hpp"
+#include "toolkit/view.hpp"
 #include "web/canvas_painter.hpp"
 
 namespace tombolario {

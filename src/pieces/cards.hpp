@@ -1,0 +1,26 @@
+#pragma once
+
+#include <cstdint>
+#include <span>
+
+#include "pieces/slots.hpp"
+
+namespace tombolario {
+
+inline constexpr int kValues = 13;
+inline constexpr int kSuits = 4;
+inline constexpr int kPack = kValues * kSuits;
+
+/// What is drawn on a card of each value, 0 to 12: the ace has the lowest number.
+inline constexpr Slots<const char*, 0, kValues - 1> kValueNames{"A", "2", "3",  "4", "5", "6", "7",
+                                                                "8", "9", "10", "J", "Q", "K"};
+
+/// The value (0 to 12) and the suit (1 to 4) of a card number, 0 to 51.
+constexpr int cardValue(int card) { return card % kValues; }
+constexpr int cardSuit(int card) { return card / kValues + 1; }
+
+/// Fills the tables from card number to value (0 to 12) and suit (1 to 4); both have at least 52 entries,
+/// those beyond are left alone.
+void fillCardTables(std::span<std::int16_t> values, std::span<std::int16_t> suits);
+
+}  // namespace tombolario

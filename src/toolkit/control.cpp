@@ -1,0 +1,93 @@
+#include "toolkit/control.hpp"
+
+#include "toolkit/form.hpp"
+
+namespace tombolario {
+
+namespace {
+
+Rect pixels(Point at, int width, int height) {
+  const double unit = kTwipsPerPixel;
+  return {at.x / unit, at.y / unit, width / unit, height / unit};
+}
+
+}  // namespace
+
+std::string Name::text() const {
+  std::string text(base);
+  return inArray ? text + '(' + std::to_string(index) + ')' : text;
+}
+
+Control::Control(Control& parent, Name name, Box box, std::string caption, const Look& look)
+    : Visible(*this, look.visible),
+      BackColor(*this, look.back),
+      ForeColor(*this, look.fore),
+      Caption(*this, std::move(caption)),
+      Picture(*this, look.picture),
+      Left(*this, box.left),
+      Top(*this, box.top),
+      Width(*this, box.width),
+      Height(*this, box.height),
+      form_(parent.form_),
+      parent_(&parent),
+      name_(name),
+      font_(look.font),
+      align_(look.align),
+      border_(look.border) {
+  parent.children_.push_back(this);
+  form_.enrol(*this);
+}
+
+Control::Control(Form& self, Name name, Box box, Colour back)
+    : Visible(*this, true),
+      BackColor(*this, back),
+      ForeColor(*this, kBlack),
+      Caption(*this, ""),
+      Picture(*this, {}),
+      Left(*this, box.left),
+      Top(*this, box.top),
+      Width(*this, box.width),
+      Height(*this, box.height),
+      form_(self),
+      parent_(nullptr),
+      name_(name) {}
+
+bool Control::onView() const { return Visible && (parent_ == nullptr || parent_->onView()); }
+
+bool Control::operable() const { return Enabled && (parent_ == nullptr || parent_->operable()); }
+
+Point Control::origin() const {
+  if (parent_ == nullptr) return {};
+  return parent_->origin() + Point{parent_->inset() + Left, parent_->inset() + Top};
+}
+
+bool Control::contains(Point point) const {
+  return point.x >= 0 && point.x < Width && point.y >= 0 && point.y < Height;
+}
+
+Control* Control::at(Point point) {
+  if (!Visible || !takesMouse() || !contains(point)) return nullptr;
+  const Point inside = point - Point{inset(), inset()};
+  for (auto child = children_.rbegin(); child != children_.rend(); ++child) {
+    if (Control* hit = (*child)->at(inside - Point{(*child)->Left, (*child)->Top})) return hit;
+  }
+  return this;
+}
+
+void Control::paint(Painter& painter) const {
+  const Rect bounds = pixels({}, Width, Height);
+  draw(painter, bounds);
+  if (children_.empty()) return;
+  if (inset() != 0) painter.enter(bounds.inset(inset() / static_cast<double>(kTwipsPerPixel)));
+  for (const Control* child : children_) {
+    if (!child->Visible) continue;
+    painter.enter(pixels({child->Left, child->Top}, child->Width, child->Height));
+    child->paint(painter);
+    painter.leave();
+  }
+  if (inset() != 0) painter.leave();
+}
+
+void Control::changed() { form_.redraw(); }
+
+}  // namespace tombolario
