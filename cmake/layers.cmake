@@ -3,7 +3,7 @@
 
 cmake_minimum_required(VERSION 3.22)
 
-# A layer is a directory, or the rules of a game: whatever in its directory is not its table.
+# A layer is a directory, or the rules of a game: whatever in its directory is neither its header nor its table.
 set(toolkit_knows toolkit)
 set(pieces_knows pieces)
 set(host_knows host pieces)
@@ -23,7 +23,7 @@ foreach(file IN LISTS files)
   get_filename_component(name ${file} NAME_WE)
   if(directory IN_LIST layers)
     set(layer ${directory})
-  elseif(name STREQUAL table)
+  elseif(name MATCHES "^(game|table)$")
     set(layer game)
   else()
     set(layer rules)
@@ -39,9 +39,9 @@ foreach(file IN LISTS files)
     endif()
     if(known IN_LIST ${layer}_knows)
       continue()
-    elseif(layer STREQUAL room AND NOT known IN_LIST layers AND header STREQUAL table)
+    elseif(layer STREQUAL room AND NOT known IN_LIST layers AND header STREQUAL game)
       continue() # the one header of a game
-    elseif(known STREQUAL directory AND (layer STREQUAL game OR NOT header STREQUAL table))
+    elseif(known STREQUAL directory AND (layer STREQUAL game OR NOT header MATCHES "^(game|table)$"))
       continue()
     endif()
     list(APPEND wrong "src/${file}: ${include} is not for this layer (${layer} knows: ${${layer}_knows})")

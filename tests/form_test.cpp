@@ -164,11 +164,11 @@ TEST_F(FormTest, APressWhoseReleaseNeverCameEndsWithTheNextOne) {
   EXPECT_EQ(taken(), "down(first) down(first*) up(first) up(first*) ");
 }
 
-TEST_F(FormTest, AroundTheRoomTheScreenInSightGoesOn) {
+TEST_F(FormTest, TheScreenInSightIsTheTopmostOne) {
   Frame other{form, "other", {0, 0, 3000, 2000}, {.back = kRed, .visible = false}};
-  EXPECT_EQ(form.surroundings(), classicPalette(SystemColour::ButtonFace));
+  EXPECT_EQ(&form.inSight(), &ground);
   other.Visible = true;
-  EXPECT_EQ(form.surroundings(), kRed);
+  EXPECT_EQ(&form.inSight(), &other);
 }
 
 TEST_F(FormTest, MovesGoToTheTopmostControlInItsOwnCoordinates) {

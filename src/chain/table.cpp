@@ -2,6 +2,7 @@
 
 #include <string>
 
+#include "chain/game.hpp"
 #include "toolkit/cursors.hpp"
 
 namespace tombolario::chain {
@@ -201,5 +202,7 @@ void Table::showLinks() {
   Lll1.Caption = std::to_string(links);
   Lok.Visible = links == kFullChain;
 }
+
+std::unique_ptr<Game> makeGame(Form& form, Host& host) { return std::make_unique<Table>(form, host); }
 
 }  // namespace tombolario::chain

@@ -7,19 +7,23 @@
 #include "toolkit/control_array.hpp"
 #include "toolkit/controls.hpp"
 #include "toolkit/form.hpp"
+#include "toolkit/game.hpp"
 #include "toolkit/screens.hpp"
 
 namespace tombolario::chain {
 
 /// The screens of the chain game: `Frame4`, its menu, and `Frame4BIS`, the table.
-class Table {
+class Table : public Game {
  public:
   Table(Form& owner, Host& host);
 
+  Frame& entrance() override { return Frame4; }
+  Button& wayBack() override { return menucat; }
+
   /// The start-up: no hand is dealt.
-  void start();
+  void start() override;
   /// The way to the main menu closes the way on.
-  void leave();
+  void leave() override;
 
   Form& form;
   // clang-format off

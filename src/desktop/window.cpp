@@ -206,7 +206,7 @@ void Window::draw() {
 void Window::paintOn(SDL_Surface& surface) {
   const Owned<cairo_surface_t> canvas(cairo_image_surface_create_for_data(
       static_cast<unsigned char*>(surface.pixels), CAIRO_FORMAT_RGB24, surface.w, surface.h, surface.pitch));
-  if (view_.marginX() > 0 || view_.marginY() > 0) SDL_FillRect(&surface, nullptr, form_.surroundings());
+  if (view_.marginX() > 0 || view_.marginY() > 0) SDL_FillRect(&surface, nullptr, form_.inSight().BackColor.get().rgb());
   cairo_surface_set_device_offset(canvas.get(), view_.marginX(), view_.marginY());
   CairoPainter painter(canvas.get(), view_.scale(), cache_);
   form_.repaint(painter);

@@ -2,6 +2,7 @@
 
 #include <string>
 
+#include "domino/game.hpp"
 #include "toolkit/cursors.hpp"
 
 namespace tombolario::domino {
@@ -188,5 +189,7 @@ void Table::offerTiles() {
     RIGHT[slot].Visible = true;
   }
 }
+
+std::unique_ptr<Game> makeGame(Form& form, Host& host) { return std::make_unique<Table>(form, host); }
 
 }  // namespace tombolario::domino

@@ -6,6 +6,7 @@
 #include "toolkit/control_array.hpp"
 #include "toolkit/controls.hpp"
 #include "toolkit/form.hpp"
+#include "toolkit/game.hpp"
 #include "toolkit/screens.hpp"
 #include "toolkit/scroll_bar.hpp"
 
@@ -15,9 +16,13 @@ namespace tombolario::domino {
 inline constexpr int kBlankSlot = kFaces;
 
 /// The screens of domino: `FRAME5`, its options, and `Frame5BIS`, the table.
-class Table {
+class Table : public Game {
  public:
   Table(Form& owner, Host& host);
+
+  Frame& entrance() override { return FRAME5; }
+  Button& wayBack() override { return MENUDOM; }
+  void start() override { inizioDOMINO(); }
 
   /// Deals a game and shows it, whether the table is on view or not.
   void inizioDOMINO();

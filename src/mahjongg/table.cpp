@@ -2,6 +2,7 @@
 
 #include <string>
 
+#include "mahjongg/game.hpp"
 #include "toolkit/cursors.hpp"
 
 namespace tombolario::mahjongg {
@@ -67,5 +68,7 @@ void Table::show() {
   CERPEDMAH.Enabled = game_.selected() == 1;
   ELPEDMAH.Enabled = game_.selected() == 2;
 }
+
+std::unique_ptr<Game> makeGame(Form& form, Host& host) { return std::make_unique<Table>(form, host); }
 
 }  // namespace tombolario::mahjongg

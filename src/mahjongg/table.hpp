@@ -6,14 +6,19 @@
 #include "toolkit/control_array.hpp"
 #include "toolkit/controls.hpp"
 #include "toolkit/form.hpp"
+#include "toolkit/game.hpp"
 #include "toolkit/screens.hpp"
 
 namespace tombolario::mahjongg {
 
 /// The screen of mahjongg, `Frame7`: the board, and the bench that counts what is left of each kind.
-class Table {
+class Table : public Game {
  public:
   Table(Form& owner, Host& host);
+
+  Frame& entrance() override { return Frame7; }
+  Button& wayBack() override { return Command17; }
+  void enter() override { avvioMAH(); }
 
   /// Lays a new board.
   void avvioMAH();

@@ -2,6 +2,7 @@
 
 #include <string>
 
+#include "poker/game.hpp"
 #include "toolkit/cursors.hpp"
 #include "toolkit/marks.hpp"
 
@@ -155,5 +156,7 @@ void Table::endMatch() {
   Command11.Enabled = false;
   Command33.Enabled = false;
 }
+
+std::unique_ptr<Game> makeGame(Form& form, Host& host) { return std::make_unique<Table>(form, host); }
 
 }  // namespace tombolario::poker

@@ -6,17 +6,21 @@
 #include "toolkit/control_array.hpp"
 #include "toolkit/controls.hpp"
 #include "toolkit/form.hpp"
+#include "toolkit/game.hpp"
 #include "toolkit/screens.hpp"
 
 namespace tombolario::poker {
 
 /// The screens of poker against the computer: `Frame2`, its options, and `Frame2BIS`, the table.
-class Table {
+class Table : public Game {
  public:
   Table(Form& owner, Host& host);
 
+  Frame& entrance() override { return Frame2; }
+  Button& wayBack() override { return menupok; }
+
   /// The start-up: no score, and no hand to follow.
-  void start();
+  void start() override;
 
   Form& form;
 

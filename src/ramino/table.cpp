@@ -3,6 +3,7 @@
 #include <initializer_list>
 #include <string>
 
+#include "ramino/game.hpp"
 #include "toolkit/cursors.hpp"
 #include "toolkit/marks.hpp"
 
@@ -256,5 +257,7 @@ void Table::showComputersTris() {
   }
   avvram.Visible = true;
 }
+
+std::unique_ptr<Game> makeGame(Form& form, Host& host) { return std::make_unique<Table>(form, host); }
 
 }  // namespace tombolario::ramino

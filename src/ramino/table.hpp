@@ -6,18 +6,22 @@
 #include "toolkit/control_array.hpp"
 #include "toolkit/controls.hpp"
 #include "toolkit/form.hpp"
+#include "toolkit/game.hpp"
 #include "toolkit/screens.hpp"
 #include "toolkit/scroll_bar.hpp"
 
 namespace tombolario::ramino {
 
 /// The screens of ramino: `frame6`, its options and its rules, and `Frame6bis`, the table.
-class Table {
+class Table : public Game {
  public:
   Table(Form& owner, Host& host);
 
+  Frame& entrance() override { return frame6; }
+  Button& wayBack() override { return MENURAM; }
+
   /// The start-up: no hand won, and the first one dealt.
-  void start();
+  void start() override;
 
   Form& form;
 

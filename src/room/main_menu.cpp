@@ -31,7 +31,12 @@ void restAwayFrom(Row& row, Point point, Colour atRest) {
 
 }  // namespace
 
-MainMenu::MainMenu(Form& owner, Host& host) : form(owner), host_(host) {
+MainMenu::MainMenu(Form& form, Host& host, int games)
+    : Frame(form, "Frameprincipale", kFullSize, {.back = 0xFFC0C0}), host_(host) {
+  for (int n = 1; n <= games; ++n) {
+    commpr.emplace_back(*this, Name{"commpr", n}, Box{4080, 1440 + 600 * (n - 1), 3735, 615}, "",
+                        buttonLook(kGameAtRest, {pictures::commpr, n}));
+  }
   Label13.MouseIcon = pictures::Label13;
   Label4.MouseIcon = pictures::Label4;
   Label9.MouseIcon = pictures::Label9;
@@ -41,7 +46,7 @@ MainMenu::MainMenu(Form& owner, Host& host) : form(owner), host_(host) {
   for (Button& button : CLINK) {
     button.onMouseMove = [this, &button](Point) { hover(CLINK, button, kLinkAtRest, kLinkUnderMouse); };
   }
-  Frameprincipale.onMouseMove = [this](Point point) {
+  onMouseMove = [this](Point point) {
     restAwayFrom(commpr, point, kGameAtRest);
     restAwayFrom(CLINK, point, kLinkAtRest);
   };

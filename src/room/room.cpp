@@ -1,16 +1,15 @@
 #include "room/room.hpp"
 
-#include <algorithm>
-#include <array>
-
-#include "chain/table.hpp"
-#include "domino/table.hpp"
-#include "mahjongg/table.hpp"
-#include "poker/table.hpp"
-#include "ramino/table.hpp"
-#include "room/main_menu.hpp"
+#include "chain/game.hpp"
+#include "domino/game.hpp"
+#include "mahjongg/game.hpp"
+#include "pictures/catalogue.hpp"
+#include "poker/game.hpp"
+#include "ramino/game.hpp"
 #include "toolkit/cursors.hpp"
-#include "videopoker/table.hpp"
+#include "toolkit/screens.hpp"
+#include "toolkit/scroll_bar.hpp"
+#include "videopoker/game.hpp"
 
 namespace tombolario {
 
@@ -18,129 +17,55 @@ namespace {
 
 constexpr Box kClientArea{0, 0, 11880, 8595};
 
+/// The games, in the order of the menu, which is also that of the start-up.
+std::vector<std::unique_ptr<Game>> makeGames(Form& form, Host& host) {
+  std::vector<std::unique_ptr<Game>> games;
+  for (const auto make : {poker::makeGame, videopoker::makeGame, domino::makeGame, chain::makeGame,
+                          ramino::makeGame, mahjongg::makeGame}) {
+    games.push_back(make(form, host));
+  }
+  return games;
+}
+
 }  // namespace
 
-struct Room::Screens {
-  explicit Screens(Host& host);
-
-  Form form{"Form1", kClientArea, kBlue, "Tombolario"};
-  MainMenu menu;
-  poker::Table poker;
-  videopoker::Table videopoker;
-  domino::Table domino;
-  chain::Table chain;
-  ramino::Table ramino;
-  mahjongg::Table mahjongg;
-
-  std::array<Frame*, 12> all() {
-    return {&menu.Frameprincipale, &poker.Frame2,  &poker.Frame2BIS,  &videopoker.Frame3,
-            &videopoker.Frame3BIS, &domino.FRAME5, &domino.Frame5BIS, &chain.Frame4,
-            &chain.Frame4BIS,      &ramino.frame6, &ramino.Frame6bis, &mahjongg.Frame7};
+Room::Room(Host& host)
+    : form_("Form1", kClientArea, kBlue, "Tombolario"),
+      games_(makeGames(form_, host)),
+      menu_(form_, host, static_cast<int>(games_.size())) {
+  auto entry = menu_.commpr.begin();
+  for (const auto& game : games_) {
+    // A press of any mouse button opens the game.
+    (entry++)->onMouseDown = [this, &game](MouseButton) {
+      game->enter();
+      changeScreen(menu_, game->entrance());
+      menu_.restGames();
+    };
+    game->wayBack().onClick = [this, &game] {
+      game->leave();
+      changeScreen(game->entrance(), menu_);
+    };
   }
-  void opens(int game, Frame& screen);
-  void open(Frame& screen);
-  void leadsBack(Button& button, Frame& screen);
-  void giveCursors();
-};
-
-Room::Screens::Screens(Host& host)
-    : menu(form, host),
-      poker(form, host),
-      videopoker(form, host),
-      domino(form, host),
-      chain(form, host),
-      ramino(form, host),
-      mahjongg(form, host) {
-  opens(1, poker.Frame2);
-  opens(2, videopoker.Frame3);
-  opens(3, domino.FRAME5);
-  opens(4, chain.Frame4);
-  opens(5, ramino.frame6);
-  menu.commpr[6].onMouseDown = [this](MouseButton) {
-    mahjongg.avvioMAH();
-    open(mahjongg.Frame7);
-  };
-
-  leadsBack(poker.menupok, poker.Frame2);
-  leadsBack(domino.MENUDOM, domino.FRAME5);
-  leadsBack(ramino.MENURAM, ramino.frame6);
-  leadsBack(mahjongg.Command17, mahjongg.Frame7);
-  chain.menucat.onClick = [this] {
-    chain.leave();
-    changeScreen(chain.Frame4, menu.Frameprincipale);
-  };
-  videopoker.MENUVP.onClick = [this] {
-    changeScreen(videopoker.Frame3, menu.Frameprincipale);
-    videopoker.Framecen.Visible = false;
-  };
 }
-
-/// A press of any mouse button on the game's entry in the menu shows its screen.
-void Room::Screens::opens(int game, Frame& screen) {
-  menu.commpr[game].onMouseDown = [this, &screen](MouseButton) { open(screen); };
-}
-
-void Room::Screens::open(Frame& screen) {
-  changeScreen(menu.Frameprincipale, screen);
-  menu.restGames();
-}
-
-void Room::Screens::leadsBack(Button& button, Frame& screen) {
-  button.onClick = [this, &screen] { changeScreen(screen, menu.Frameprincipale); };
-}
-
-/// The menu's labels keep the cursors of the room. What is always there takes its own here; what a game
-/// shows at each deal takes it at the deal.
-void Room::Screens::giveCursors() {
-  giveCursor(menu.Label13.MouseIcon, {&menu.CLINK[1],       &menu.CLINK[2],
-                                      &videopoker.Command4, &videopoker.Command7,
-                                      &videopoker.Command8, &videopoker.Command9,
-                                      &videopoker.Command1, &videopoker.Command3,
-                                      &videopoker.Command5, &poker.Command11,
-                                      &poker.Command33,     &poker.Command55,
-                                      &poker.Command15,     &videopoker.MENUVP,
-                                      &poker.menupok,       &ramino.GIOCORAM,
-                                      &ramino.MENURAM,      &poker.Command44,
-                                      &menu.commpr[1],      &menu.commpr[2],
-                                      &menu.commpr[3],      &menu.commpr[4],
-                                      &menu.commpr[5],      &menu.commpr[6],
-                                      &domino.giocodom,     &domino.MENUDOM,
-                                      &domino.FINEDOM,      &domino.NUOVAPARDOM,
-                                      &domino.passadomban,  &domino.Commdomban,
-                                      &chain.menucat,       &chain.SALVACAT,
-                                      &chain.CARCAT,        &chain.CoNTCAT,
-                                      &chain.INICAT,        &chain.FINECA,
-                                      &chain.nmcat,         &chain.SOSTITCAT,
-                                      &chain.SCAMBIA,       &ramino.mazzoram,
-                                      &ramino.tavoloram,    &ramino.ramturncom,
-                                      &ramino.ramlas,       &ramino.Continuaramino,
-                                      &ramino.ALTRORAM,     &ramino.ramesc,
-                                      &ramino.scambiaram,   &mahjongg.ELPEDMAH,
-                                      &mahjongg.CERPEDMAH,  &mahjongg.ALTRAPARTITAMAH,
-                                      &mahjongg.Command17});
-  giveCursor(menu.Label4.MouseIcon, {&domino.HScrolldom, &ramino.VScrollram1});
-  giveCursor(menu.Label9.MouseIcon,
-             {&poker.Op1, &poker.Op2, &domino.Opdom1, &domino.Opdom2, &domino.Opdom3, &domino.Opdom4,
-              &ramino.Opram1, &ramino.Opram2, &chain.Optca1, &chain.Optca2, &poker.Option3, &poker.Option4});
-}
-
-Room::Room(Host& host) : screens_(std::make_unique<Screens>(host)) {}
-
-Room::~Room() = default;
 
 void Room::Form_Load() {
-  screens_->domino.inizioDOMINO();
-  screens_->chain.start();
-  screens_->ramino.start();
-  screens_->poker.start();
-  screens_->giveCursors();
+  for (const auto& game : games_) game->start();
+  giveCursors();
 }
 
-Form& Room::form() { return screens_->form; }
-
-const Control& Room::screen() const {
-  const auto all = screens_->all();
-  return **std::find_if(all.begin(), all.end(), [](const Frame* screen) { return screen->Visible.get(); });
+/// The menu's labels keep the cursors of the room. What stands alone takes its own here; what is one of a row
+/// takes it at each deal, but for the rows of the menu.
+void Room::giveCursors() {
+  for (Control* control : form_.controls()) {
+    if (dynamic_cast<Button*>(control) != nullptr &&
+        (!control->name().inArray || control->parent() == &menu_)) {
+      giveCursor(menu_.Label13.MouseIcon, {control});
+    } else if (dynamic_cast<ScrollBar*>(control) != nullptr) {
+      giveCursor(menu_.Label4.MouseIcon, {control});
+    } else if (dynamic_cast<OptionButton*>(control) != nullptr) {
+      giveCursor(menu_.Label9.MouseIcon, {control});
+    }
+  }
 }
 
 }  // namespace tombolario

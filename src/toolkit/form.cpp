@@ -1,6 +1,7 @@
 #include "toolkit/form.hpp"
 
 #include <algorithm>
+#include <stdexcept>
 #include <utility>
 
 namespace tombolario {
@@ -92,11 +93,10 @@ void Form::repaint(Painter& painter) {
   needsDrawing_ = false;
 }
 
-Rgb Form::surroundings() const {
+const Control& Form::inSight() const {
   const auto screen = std::find_if(children().rbegin(), children().rend(),
                                    [](const Control* child) { return child->Visible.get(); });
-  const Control* inSight = screen != children().rend() ? *screen : this;
-  return inSight->BackColor.get().rgb();
+  return screen != children().rend() ? **screen : static_cast<const Control&>(*this);
 }
 
 void Form::draw(Painter& painter, const Rect& bounds) const {
@@ -105,10 +105,14 @@ void Form::draw(Painter& painter, const Rect& bounds) const {
 
 Control* Form::find(std::string_view wanted) {
   if (wanted == name().text()) return this;
-  const auto found = std::find_if(controls_.begin(), controls_.end(), [&](const Control* c) {
-    return wanted.starts_with(c->name().base) && c->name().text() == wanted;
-  });
-  return found != controls_.end() ? *found : nullptr;
+  const auto found = byName_.find(std::string(wanted));
+  return found != byName_.end() ? found->second : nullptr;
+}
+
+void Form::enrol(Control& control) {
+  const std::string name = control.name().text();
+  if (!byName_.emplace(name, &control).second) throw std::logic_error("two controls are called " + name);
+  controls_.push_back(&control);
 }
 
 }  // namespace tombolario

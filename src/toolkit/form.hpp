@@ -1,6 +1,8 @@
 #pragma once
 
+#include <string>
 #include <string_view>
+#include <unordered_map>
 #include <vector>
 
 #include "toolkit/control.hpp"
@@ -32,8 +34,8 @@ class Form : public Control {
   /// Whether the left button holds the control down at this moment.
   bool holdsDown(const Control& control) const { return &control == sunken_; }
 
-  /// The colour that goes on around the room: that of the screen in sight.
-  Rgb surroundings() const;
+  /// The screen in sight, the topmost visible control in the window; the window itself if there is none.
+  const Control& inSight() const;
 
   /// True from a change that can be seen until the next repaint.
   bool needsDrawing() const { return needsDrawing_; }
@@ -45,8 +47,8 @@ class Form : public Control {
   Control* find(std::string_view wanted);
   /// Every control but the window, in the order in which they were made.
   const std::vector<Control*>& controls() const { return controls_; }
-  /// A new control; its name must be its own.
-  void enrol(Control& control) { controls_.push_back(&control); }
+  /// A new control. Throws std::logic_error where another has its name.
+  void enrol(Control& control);
 
  private:
   void draw(Painter& painter, const Rect& bounds) const override;
@@ -56,6 +58,7 @@ class Form : public Control {
   void updateSunken();
 
   std::vector<Control*> controls_;
+  std::unordered_map<std::string, Control*> byName_;
   Point mouse_{-1, -1};
   unsigned held_ = 0;            // a bit for each button that is down
   Control* captured_ = nullptr;  // what was under the first press; null outside the window

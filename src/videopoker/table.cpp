@@ -4,6 +4,7 @@
 
 #include "toolkit/cursors.hpp"
 #include "toolkit/marks.hpp"
+#include "videopoker/game.hpp"
 
 namespace tombolario::videopoker {
 
@@ -180,5 +181,7 @@ void Table::refuseButtons() {
 void Table::hideRows() {
   for (PictureBox& row : segn) row.Visible = false;
 }
+
+std::unique_ptr<Game> makeGame(Form& form, Host& host) { return std::make_unique<Table>(form, host); }
 
 }  // namespace tombolario::videopoker

@@ -7,6 +7,7 @@
 #include "toolkit/control_array.hpp"
 #include "toolkit/controls.hpp"
 #include "toolkit/form.hpp"
+#include "toolkit/game.hpp"
 #include "toolkit/screens.hpp"
 #include "videopoker/rules.hpp"
 
@@ -14,9 +15,13 @@ namespace tombolario::videopoker {
 
 /// The two screens of video poker: `Frame3`, its menu with the summary of a run, and `Frame3BIS`, the
 /// table. Places in twips, as everywhere: Left, Top, Width, Height.
-class Table {
+class Table : public Game {
  public:
   Table(Form& owner, Host& host);
+
+  Frame& entrance() override { return Frame3; }
+  Button& wayBack() override { return MENUVP; }
+  void leave() override { Framecen.Visible = false; }
 
   Form& form;
 

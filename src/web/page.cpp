@@ -48,7 +48,7 @@ void Page::draw() {
   const int x = view_.marginX();
   const int y = view_.marginY();
   CanvasPainter painter(kPageCanvas, {double(x), double(y)}, view_.scale(), cache_);
-  if (x > 0 || y > 0) canvas_fill_rect(kPageCanvas, -x, -y, width_, height_, form_.surroundings());
+  if (x > 0 || y > 0) canvas_fill_rect(kPageCanvas, -x, -y, width_, height_, form_.inSight().BackColor.get().rgb());
   form_.repaint(painter);
 }
 

@@ -1,0 +1,14 @@
+#pragma once
+
+#include <memory>
+
+#include "host/host.hpp"
+#include "toolkit/form.hpp"
+#include "toolkit/game.hpp"
+
+namespace tombolario::chain {
+
+/// The chain game. The window and the host must outlive it.
+std::unique_ptr<Game> makeGame(Form& form, Host& host);
+
+}  // namespace tombolario::chain
