@@ -1,8 +1,9 @@
 #include "chain/rules.hpp"
 
 #include <algorithm>
-#include <limits>
 #include <utility>
+
+#include "pieces/number.hpp"
 
 namespace tombolario::chain {
 
@@ -13,11 +14,6 @@ constexpr int kMostToExchange = 2;
 
 int mostToSubstitute(Mode mode) { return mode == Mode::OneExchange ? 2 : 1; }
 int mostExchanges(Mode mode) { return mode == Mode::OneExchange ? 1 : 2; }
-
-/// A number never leaves 16 bits.
-void add(std::int16_t& number, int more) {
-  number = static_cast<std::int16_t>(std::min<int>(number + more, std::numeric_limits<std::int16_t>::max()));
-}
 
 int countOf(const OfRow<bool>& marks) {
   return static_cast<int>(std::count(marks.begin(), marks.end(), true));

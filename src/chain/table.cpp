@@ -52,7 +52,7 @@ void Table::avviocatena() {
   SOSTITCAT.Caption = kSubstitution;
   SOSTITCAT.BackColor = kIdle;
   SOSTITCAT.Enabled = true;
-  SCALABELCAT.Caption = std::to_string(game_.state().scambicat);
+  SCALABELCAT.Caption = game_.state().scambicat;
   SCAMBIA.Picture = pictures::SC1;
   SCAMBIA.Visible = true;
   enableMarks();
@@ -84,9 +84,9 @@ void Table::openTable() {
   CoNTCAT.Enabled = false;
   changeScreen(Frame4, Frame4BIS);
   nmcat.Enabled = true;
-  Lpuca.Caption = std::to_string(game_.state().puntcat);
-  Llivpuca.Caption = std::to_string(game_.state().livcat);
-  Lmacatpu.Caption = std::to_string(kHandsOfALevel);
+  Lpuca.Caption = game_.state().puntcat;
+  Llivpuca.Caption = game_.state().livcat;
+  Lmacatpu.Caption = kHandsOfALevel;
 }
 
 /// "SOSTITUZIONE" under a tile. With two tiles to a substitution the button tells how many are marked.
@@ -122,7 +122,7 @@ void Table::Comscam_Click(int position) {
 /// "SCAMBIA": the marked tiles change places.
 void Table::SCAMBIA_Click() {
   if (!game_.exchange()) return;
-  SCALABELCAT.Caption = std::to_string(game_.state().scambicat);
+  SCALABELCAT.Caption = game_.state().scambicat;
   showMarks();
   for (int position = 1; position <= kRow; ++position) showTile(position);
   showLinks();
@@ -137,9 +137,9 @@ void Table::SCAMBIA_Click() {
 /// "NUOVA MANO": the hand counts, and another is dealt.
 void Table::nmcat_Click() {
   const bool levelOver = game_.endHand();
-  Lpuca.Caption = std::to_string(game_.state().puntcat);
+  Lpuca.Caption = game_.state().puntcat;
   if (levelOver) endLevel();
-  Lmacatpu.Caption = std::to_string(game_.handsLeft());
+  Lmacatpu.Caption = game_.handsLeft();
   avviocatena();
 }
 
@@ -147,9 +147,9 @@ void Table::nmcat_Click() {
 void Table::endLevel() {
   nmcat.Enabled = false;
   changeScreen(Frame4BIS, Frame4);
-  Label3ca.Caption = std::to_string(game_.state().puntcat);
-  Label14ca.Caption = std::to_string(game_.state().pleincat);
-  Label10ca.Caption = std::to_string(game_.state().livcat);
+  Label3ca.Caption = game_.state().puntcat;
+  Label14ca.Caption = game_.state().pleincat;
+  Label10ca.Caption = game_.state().livcat;
   CoNTCAT.Enabled = game_.levelPassed();
   SALVACAT.Enabled = game_.levelPassed();
 }
@@ -164,7 +164,7 @@ void Table::FINECA_Click() {
   Label3ca.Caption = "0";
   game_.giveUp();
   avviocatena();
-  Label10ca.Caption = std::to_string(game_.state().livcat);
+  Label10ca.Caption = game_.state().livcat;
 }
 
 /// "SALVA".
@@ -176,8 +176,8 @@ void Table::CARCAT_Click() {
   if (score == 0) CARCAT.Enabled = false;
   if (score <= 0) return;
   game_.resume(score, level);
-  Label3ca.Caption = std::to_string(score);
-  Label10ca.Caption = std::to_string(level);
+  Label3ca.Caption = score;
+  Label10ca.Caption = level;
   CoNTCAT.Enabled = true;
 }
 
@@ -199,7 +199,7 @@ void Table::showMarks() {
 
 void Table::showLinks() {
   const int links = game_.state().links();
-  Lll1.Caption = std::to_string(links);
+  Lll1.Caption = links;
   Lok.Visible = links == kFullChain;
 }
 

@@ -1,7 +1,5 @@
 #include "domino/table.hpp"
 
-#include <string>
-
 #include "domino/game.hpp"
 #include "toolkit/cursors.hpp"
 
@@ -170,16 +168,16 @@ void Table::showTurn() {
 
 void Table::showCounters() {
   const State& now = game_.state();
-  for (int n = 0; n < 2 * kNumbers; ++n) peddom[n].Caption = std::to_string(now.contadom[n]);
-  domcont1.Caption = std::to_string(kHand - now.posateumdom);
-  domcont2.Caption = std::to_string(kHand - now.posatecomdom);
+  for (int n = 0; n < 2 * kNumbers; ++n) peddom[n].Caption = now.contadom[n];
+  domcont1.Caption = kHand - now.posateumdom;
+  domcont2.Caption = kHand - now.posatecomdom;
 }
 
 void Table::showScore() {
   const State& now = game_.state();
   const bool byGame = counting() == Counting::ByGame;
-  scoredom1.Caption = std::to_string(byGame ? now.partumdom : now.pedumdom);
-  scoredom2.Caption = std::to_string(byGame ? now.partcomdom : now.pedcomdom);
+  scoredom1.Caption = byGame ? now.partumdom : now.pedumdom;
+  scoredom2.Caption = byGame ? now.partcomdom : now.pedcomdom;
 }
 
 /// The buttons of all tiles.

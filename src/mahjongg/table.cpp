@@ -1,5 +1,3 @@
-#include <string>
-
 #include "mahjongg/game.hpp"
 #include "mahjongg/rules.hpp"
 #include "pictures/catalogue.hpp"
@@ -119,7 +117,7 @@ class Table : public Game {
       const bool lit = kind == game_.selectedKind();
       Label& count = screen_.FrameBANMAH.labmah[kind];
       count.Visible = game_.left(kind) > 0;
-      count.Caption = std::to_string(game_.left(kind));
+      count.Caption = game_.left(kind);
       count.BackColor = lit ? kRed : kWhite;
       count.ForeColor = lit ? kYellow : kBlack;
     }

@@ -1,7 +1,5 @@
 #include "poker/table.hpp"
 
-#include <string>
-
 #include "poker/game.hpp"
 #include "toolkit/cursors.hpp"
 #include "toolkit/marks.hpp"
@@ -34,8 +32,8 @@ void Table::start() {
 /// A match without a score.
 void Table::begin() {
   game_.begin();
-  hum1.Caption = std::to_string(game_.playerScore());
-  comp1.Caption = std::to_string(game_.computerScore());
+  hum1.Caption = game_.playerScore();
+  comp1.Caption = game_.computerScore();
 }
 
 /// Deals: the player's cards are seen, the computer's lie face down.
@@ -138,11 +136,11 @@ void Table::award() {
     case Side::Nobody: break;
     case Side::Player:
       hum1.BackColor = kWonHand;
-      hum1.Caption = std::to_string(game_.playerScore());
+      hum1.Caption = game_.playerScore();
       break;
     case Side::Computer:
       comp1.BackColor = kWonHand;
-      comp1.Caption = std::to_string(game_.computerScore());
+      comp1.Caption = game_.computerScore();
       break;
   }
 }

@@ -1,8 +1,6 @@
 #include "ramino/table.hpp"
 
 #include <initializer_list>
-#include <string>
-
 #include "ramino/game.hpp"
 #include "toolkit/cursors.hpp"
 #include "toolkit/marks.hpp"
@@ -44,8 +42,8 @@ void Table::start() {
 /// A match without a hand won.
 void Table::begin() {
   game_.begin();
-  PRAMC.Caption = std::to_string(game_.state().vintiCompRam);
-  PRAMH.Caption = std::to_string(game_.state().vintiUmanoRam);
+  PRAMC.Caption = game_.state().vintiCompRam;
+  PRAMH.Caption = game_.state().vintiUmanoRam;
 }
 
 /// Deals a hand.
@@ -228,10 +226,10 @@ void Table::endHand() {
     case Result::Won:
       ramvin.Visible = true;
       ramcomp.Visible = false;
-      PRAMH.Caption = std::to_string(game_.state().vintiUmanoRam);
+      PRAMH.Caption = game_.state().vintiUmanoRam;
       break;
     case Result::Lost:
-      PRAMC.Caption = std::to_string(game_.state().vintiCompRam);
+      PRAMC.Caption = game_.state().vintiCompRam;
       ramper.Visible = true;
       ramcomp.Visible = false;
       showComputersTris();

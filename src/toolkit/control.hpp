@@ -81,7 +81,7 @@ class Control {
   Property<Colour> ForeColor;
   Property<Colour> BorderColor{*this, kBlack};
   Property<Colour> FillColor{*this, kBlack};
-  Property<std::string> Caption;
+  TextProperty Caption;
   Property<PictureId> Picture;
   Property<int> Left, Top, Width, Height;  ///< twips, relative to the inside of the parent
   Property<int> Value{*this, 0};

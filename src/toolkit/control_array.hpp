@@ -1,13 +1,13 @@
 #pragma once
 
 #include <array>
-#include <cassert>
 #include <cstddef>
 #include <utility>
 
 namespace tombolario {
 
-/// A row of controls of one kind that share a name, numbered First to Last.
+/// A row of controls of one kind that share a name, numbered First to Last. A number outside is a fault, and
+/// throws.
 template <class Kind, int First, int Last>
 class ControlArray {
  public:
@@ -15,10 +15,7 @@ class ControlArray {
   template <class Make>
   explicit ControlArray(Make make) : ControlArray(make, std::make_index_sequence<kCount>()) {}
 
-  Kind& operator[](int index) {
-    assert(index >= First && index <= Last);
-    return controls_[static_cast<std::size_t>(index - First)];
-  }
+  Kind& operator[](int index) { return controls_.at(static_cast<std::size_t>(index - First)); }
 
   auto begin() { return controls_.begin(); }
   auto end() { return controls_.end(); }

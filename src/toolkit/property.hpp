@@ -1,5 +1,6 @@
 #pragma once
 
+#include <string>
 #include <utility>
 
 namespace tombolario {
@@ -33,6 +34,17 @@ class Property {
  private:
   Control& owner_;
   Value value_;
+};
+
+/// A text that may be given as a number, in plain decimal.
+class TextProperty : public Property<std::string> {
+ public:
+  using Property::Property;
+  using Property::operator=;
+  TextProperty& operator=(int number) {
+    Property::operator=(std::to_string(number));
+    return *this;
+  }
 };
 
 }  // namespace tombolario

@@ -1,7 +1,5 @@
 #include "videopoker/table.hpp"
 
-#include <string>
-
 #include "toolkit/cursors.hpp"
 #include "toolkit/marks.hpp"
 #include "videopoker/game.hpp"
@@ -40,7 +38,7 @@ void Table::avvioVIDEO() {
     giveCursor(pictures::Label13, {&Command2[i]});
   }
   for (int slot = 0; slot < kSlots; ++slot) Pict[slot].Picture = {pictures::Picture1, game_.card(slot)};
-  Label2.Caption = std::to_string(game_.balance());
+  Label2.Caption = game_.balance();
 }
 
 /// "NUOVA PARTITA".
@@ -62,7 +60,7 @@ void Table::Command9_Click() {
     return;
   }
   openButtons();
-  Label2.Caption = std::to_string(game_.balance());
+  Label2.Caption = game_.balance();
   showTable();
   Command1.Enabled = false;
   Command3.Enabled = true;
@@ -124,7 +122,7 @@ void Table::Command4_Click() {
   if (game_.goOn()) {
     showTable();
     Command9.Enabled = true;
-    Label2.Caption = std::to_string(game_.balance());
+    Label2.Caption = game_.balance();
     Command7.Enabled = true;
     Command7.Picture = pictures::SALVPOK1;
   } else {
@@ -158,8 +156,8 @@ void Table::showTable() {
 void Table::showSummary() {
   Framecen.Visible = true;
   changeScreen(Frame3BIS, Frame3);
-  Label6.Caption = std::to_string(game_.gain());
-  Label5.Caption = std::to_string(game_.balance());
+  Label6.Caption = game_.gain();
+  Label5.Caption = game_.balance();
 }
 
 /// Both buttons of the summary as they are from the start of each game.
