@@ -62,6 +62,17 @@ void drawJoker(Painter& painter) {
   drawBall(painter, {35, 58}, 21);
 }
 
+void drawVideoPokerCard(Painter& painter, int card) {
+  if (card == kJoker) return drawJoker(painter);
+  drawCard(painter, card, kVideoPokerCard, kVideoPokerSuits, kBlack);
+}
+
+void drawPokerCard(Painter& painter, int card) { drawCard(painter, card, kPokerCard, kPokerSuits, kBlack); }
+
+void drawRaminoCard(Painter& painter, int card) {
+  drawCard(painter, card, kRaminoCard, kRaminoSuits, kWhite);
+}
+
 }  // namespace
 
 constinit const PictureStore Picture1{"Picture1",
@@ -69,28 +80,8 @@ constinit const PictureStore Picture1{"Picture1",
                                       kPack + 1,
                                       true,
                                       [](int card) { return card == kJoker ? kJokerCard : kVideoPokerCard; },
-                                      [](Painter& painter, int card) {
-                                        if (card == kJoker) {
-                                          drawJoker(painter);
-                                        } else {
-                                          drawCard(painter, card, kVideoPokerCard, kVideoPokerSuits, kBlack);
-                                        }
-                                      }};
-
-constinit const PictureStore Picture11{
-    "Picture11",
-    0,
-    kPack,
-    true,
-    [](int) { return kPokerCard; },
-    [](Painter& painter, int card) { drawCard(painter, card, kPokerCard, kPokerSuits, kBlack); }};
-
-constinit const PictureStore ramcar{
-    "ramcar",
-    0,
-    kPack,
-    true,
-    [](int) { return kRaminoCard; },
-    [](Painter& painter, int card) { drawCard(painter, card, kRaminoCard, kRaminoSuits, kWhite); }};
+                                      drawVideoPokerCard};
+constinit const PictureStore Picture11 = pictureRow<kPokerCard>("Picture11", 0, kPack, drawPokerCard);
+constinit const PictureStore ramcar = pictureRow<kRaminoCard>("ramcar", 0, kPack, drawRaminoCard);
 
 }  // namespace tombolario::pictures

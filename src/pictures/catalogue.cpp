@@ -7,14 +7,10 @@ namespace tombolario::pictures {
 namespace {
 
 constexpr std::array kStores{
-    &commpr,     &Picture3,   &Picture4,      &Label13,    &Label4,    &Label9,        &Picture1,
-    &Picture11,  &ramcar,     &Pictcomvidpok, &segn,       &CONTPOK1,  &CONTPOK2,      &SALVPOK1,
-    &SALVPOK2,   &striscie,   &ufo,           &Pictcompok, &Picture5,  &dominob,       &domin,
-    &spagnadom,  &brasiledom, &giapponedom,   &usadom,     &sveziadom, &portogallodom, &danimarcadom,
-    &tabdom,     &Commdomban, &passadomban,   &PicRAM3,    &rampul1,   &rampul2,       &ramlas,
-    &scambiaram, &RAMRESULT,  &rampar,        &ramvin,     &ramper,    &Picram,        &Picture2,
-    &pictca,     &INICAT,     &CoNTCAT,       &CARCAT,     &SALVACAT,  &FINECA,        &SC1,
-    &SC2,        &PICMAH,     &IImAH,         &ImAH,       &ELPEDMAH,  &CERPEDMAH};
+#define STORE(name) &(name),
+#include "pictures/stores.inc"
+#undef STORE
+};
 
 }  // namespace
 

@@ -45,9 +45,8 @@ void drawPattern(Painter& painter, int) {
 
 }  // namespace
 
-constinit const PictureStore Picture2{"Picture2", 0, kChainTiles, true, [](int) { return kTileSize; },
-                                      drawTile};
-constinit const PictureStore pictca{"pictca", 0, 9, true, [](int) { return kPatternSize; }, drawPattern};
+constinit const PictureStore Picture2 = pictureRow<kTileSize>("Picture2", 0, kChainTiles, drawTile);
+constinit const PictureStore pictca = pictureRow<kPatternSize>("pictca", 0, 9, drawPattern);
 constinit const PictureStore INICAT = plateStore<"NUOVA PARTITA", Size{240, 24}, kWhite, kRed>("INICAT");
 constinit const PictureStore CoNTCAT = plateStore<"CONTINUA", Size{156, 22}, kWhite, kRed>("CoNTCAT");
 constinit const PictureStore CARCAT = plateStore<"CARICA", Size{113, 24}, kWhite, kRed>("CARCAT");

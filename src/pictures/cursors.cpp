@@ -66,12 +66,10 @@ void drawArrow(Painter& painter, int) {
   painter.outlinePolygon(kArrow, kBlack, 1.2);
 }
 
-constexpr Size cursorSize(int) { return kCursorSize; }
-
 }  // namespace
 
-constinit const PictureStore Label13{"Label13", 0, 1, false, cursorSize, drawPointingHand, {12, 1}};
-constinit const PictureStore Label4{"Label4", 0, 1, false, cursorSize, drawClosedHand, {16, 14}};
-constinit const PictureStore Label9{"Label9", 0, 1, false, cursorSize, drawArrow, {0, 1}};
+constinit const PictureStore Label13 = singlePicture<kCursorSize>("Label13", drawPointingHand, {12, 1});
+constinit const PictureStore Label4 = singlePicture<kCursorSize>("Label4", drawClosedHand, {16, 14});
+constinit const PictureStore Label9 = singlePicture<kCursorSize>("Label9", drawArrow, {0, 1});
 
 }  // namespace tombolario::pictures

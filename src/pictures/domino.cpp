@@ -40,15 +40,11 @@ void drawScore(Painter& painter, int) {
   scoreColumn(painter, 1, "SCORE", kHeading, kWhite);
 }
 
-constexpr Size sizeOfTile(int) { return kTileSize; }
-
 }  // namespace
 
-constinit const PictureStore dominob{"dominob", 0, kFaces, true, sizeOfTile, drawTile};
-constinit const PictureStore domin{"domin", 56, 1, true, sizeOfTile, drawBlank};
-constinit const PictureStore tabdom{"tabdom", 0, 1, false, [](int) {
-                                      return Size{229, kScoreHeight}; },
-                                    drawScore};
+constinit const PictureStore dominob = pictureRow<kTileSize>("dominob", 0, kFaces, drawTile);
+constinit const PictureStore domin = pictureRow<kTileSize>("domin", kFaces, 1, drawBlank);
+constinit const PictureStore tabdom = singlePicture<Size{229, kScoreHeight}>("tabdom", drawScore);
 constinit const PictureStore Commdomban =
     plateStore<"SCELTA COMPUTER", Size{124, 14}, kYellow, kRed>("Commdomban");
 constinit const PictureStore passadomban = plateStore<"PASSA", Size{43, 13}, kBlack, kYellow>("passadomban");

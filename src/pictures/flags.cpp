@@ -69,18 +69,14 @@ void drawPortugal(Painter& painter, int) {
 
 void drawDenmark(Painter& painter, int) { cross(painter, 0xC8102E, kWhite); }
 
-constexpr PictureStore flag(std::string_view name, void (*draw)(Painter&, int)) {
-  return {name, 0, 1, false, [](int) { return kFlagSize; }, draw};
-}
-
 }  // namespace
 
-constinit const PictureStore spagnadom = flag("spagnadom", drawSpain);
-constinit const PictureStore brasiledom = flag("brasiledom", drawBrazil);
-constinit const PictureStore giapponedom = flag("giapponedom", drawJapan);
-constinit const PictureStore usadom = flag("usadom", drawUnitedStates);
-constinit const PictureStore sveziadom = flag("sveziadom", drawSweden);
-constinit const PictureStore portogallodom = flag("portogallodom", drawPortugal);
-constinit const PictureStore danimarcadom = flag("danimarcadom", drawDenmark);
+constinit const PictureStore spagnadom = singlePicture<kFlagSize>("spagnadom", drawSpain);
+constinit const PictureStore brasiledom = singlePicture<kFlagSize>("brasiledom", drawBrazil);
+constinit const PictureStore giapponedom = singlePicture<kFlagSize>("giapponedom", drawJapan);
+constinit const PictureStore usadom = singlePicture<kFlagSize>("usadom", drawUnitedStates);
+constinit const PictureStore sveziadom = singlePicture<kFlagSize>("sveziadom", drawSweden);
+constinit const PictureStore portogallodom = singlePicture<kFlagSize>("portogallodom", drawPortugal);
+constinit const PictureStore danimarcadom = singlePicture<kFlagSize>("danimarcadom", drawDenmark);
 
 }  // namespace tombolario::pictures

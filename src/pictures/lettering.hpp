@@ -29,12 +29,8 @@ struct FixedText {
 /// A store of one plate; `kRoom` is the width left for its text, in pixels.
 template <FixedText kText, Size kSize, Rgb kInk, Rgb kGround, int kRoom = kSize.width - 6>
 constexpr PictureStore plateStore(std::string_view name) {
-  return {name,
-          0,
-          1,
-          false,
-          [](int) { return kSize; },
-          [](Painter& painter, int) { plate(painter, kSize, kRoom, kText.text, kInk, kGround); }};
+  return singlePicture<kSize>(
+      name, [](Painter& painter, int) { plate(painter, kSize, kRoom, kText.text, kInk, kGround); });
 }
 
 }  // namespace tombolario::pictures

@@ -239,8 +239,6 @@ void drawDesign(Painter& painter, Design design, Size size) {
   painter.outlineRect({0, 0, static_cast<double>(size.width), static_cast<double>(size.height)}, 0x404040, 1);
 }
 
-constexpr Size sizeOfBench(int) { return kSize; }
-
 void drawBench(Painter& painter, int kind) { drawDesign(painter, kDesigns[kind], kSize); }
 
 /// One kind is a pixel higher on the board than on the bench.
@@ -258,11 +256,10 @@ void drawPiece(Painter& painter, int piece) {
 }  // namespace
 
 constinit const PictureStore PICMAH{"PICMAH", 0, kPieces, true, sizeOfPiece, drawPiece};
-constinit const PictureStore IImAH{
-    "IImAH", 0,           kKinds - 1,
-    true,    sizeOfBench, [](Painter& painter, int index) { drawBench(painter, kindOfBench(index)); }};
-constinit const PictureStore ImAH{
-    "ImAH", 0, 1, false, sizeOfBench, [](Painter& painter, int) { drawBench(painter, kKinds - 1); }};
+constinit const PictureStore IImAH = pictureRow<kSize>(
+    "IImAH", 0, kKinds - 1, [](Painter& painter, int index) { drawBench(painter, kindOfBench(index)); });
+constinit const PictureStore ImAH =
+    singlePicture<kSize>("ImAH", [](Painter& painter, int) { drawBench(painter, kKinds - 1); });
 constinit const PictureStore ELPEDMAH = plateStore<"ELIMINA PEDINE", Size{117, 13}, kWhite, kRed>("ELPEDMAH");
 constinit const PictureStore CERPEDMAH =
     plateStore<"CERCA PEDINE", Size{108, 13}, kWhite, kBlue>("CERPEDMAH");

@@ -3,23 +3,21 @@
 
 #include "pictures/catalogue.hpp"
 #include "pictures/lettering.hpp"
-#include "pieces/slots.hpp"
 
 namespace tombolario::pictures {
 
 namespace {
 
 constexpr Size kGameSize{166, 18};
-constexpr Slots<const char*, 1, 6> kGames{"POKER",        "VIDEOPOKER", "DOMINO",
-                                          "DOMINO/POKER", "RAMINO",     "MAHJONGG"};
+constexpr std::array kGames{"POKER", "VIDEOPOKER", "DOMINO", "DOMINO/POKER", "RAMINO", "MAHJONGG"};
 
 /// The number of the game at the left, then its name, white on red.
 void drawGame(Painter& painter, int index) {
   painter.fillRect({0, 0, kGameSize.width, kGameSize.height}, kRed);
   const Font font = lettering(11);
   painter.text({12, 0, 20, kGameSize.height}, std::to_string(index), font, kWhite, Align::Left);
-  fittedText(painter, {40, 0, kGameSize.width - 46, kGameSize.height}, kGames[index], font, kWhite,
-             Align::Left);
+  fittedText(painter, {40, 0, kGameSize.width - 46, kGameSize.height},
+             kGames.at(static_cast<std::size_t>(index - 1)), font, kWhite, Align::Left);
 }
 
 /// A red diamond on white, in a black border.
@@ -33,10 +31,8 @@ constexpr Size kOrnamentSize{100, 100};
 
 }  // namespace
 
-constinit const PictureStore commpr{"commpr", 1, 6, true, [](int) { return kGameSize; }, drawGame};
-constinit const PictureStore Picture3{"Picture3", 0, 1, false, [](int) { return kOrnamentSize; },
-                                      drawDiamond};
-constinit const PictureStore Picture4{"Picture4", 0, 1, false, [](int) { return kOrnamentSize; },
-                                      drawDiamond};
+constinit const PictureStore commpr = pictureRow<kGameSize>("commpr", 1, kGames.size(), drawGame);
+constinit const PictureStore Picture3 = singlePicture<kOrnamentSize>("Picture3", drawDiamond);
+constinit const PictureStore Picture4 = singlePicture<kOrnamentSize>("Picture4", drawDiamond);
 
 }  // namespace tombolario::pictures

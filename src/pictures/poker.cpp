@@ -51,11 +51,8 @@ void drawScore(Painter& painter, int) {
 
 }  // namespace
 
-constinit const PictureStore ufo{"ufo", 0, 1, false, [](int) { return kBackSize; }, drawSaucer};
-constinit const PictureStore Pictcompok{"Pictcompok",    0, 1, false, [](int) { return kCombinationsSize; },
-                                        drawCombinations};
-constinit const PictureStore Picture5{"Picture5", 0, 1, false, [](int) {
-                                        return Size{165, kScoreHeight}; },
-                                      drawScore};
+constinit const PictureStore ufo = singlePicture<kBackSize>("ufo", drawSaucer);
+constinit const PictureStore Pictcompok = singlePicture<kCombinationsSize>("Pictcompok", drawCombinations);
+constinit const PictureStore Picture5 = singlePicture<Size{165, kScoreHeight}>("Picture5", drawScore);
 
 }  // namespace tombolario::pictures

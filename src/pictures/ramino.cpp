@@ -73,15 +73,10 @@ void drawScore(Painter& painter, int) {
 /// The names of the sides at the end of a hand, to lie over those of the table.
 template <Inks kComputer, Inks kHuman>
 constexpr PictureStore endStore(std::string_view name) {
-  return {name,
-          0,
-          1,
-          false,
-          [](int) { return kNamesSize; },
-          [](Painter& painter, int) {
-            scoreCorner(painter, "FINE", {kYellow, kMagenta});
-            scoreNames(painter, kComputer, kHuman);
-          }};
+  return singlePicture<kNamesSize>(name, [](Painter& painter, int) {
+    scoreCorner(painter, "FINE", {kYellow, kMagenta});
+    scoreNames(painter, kComputer, kHuman);
+  });
 }
 constexpr Inks kLit{kBlue, kYellow};
 constexpr Inks kPlain{kWhite, kRed};
@@ -89,12 +84,12 @@ constexpr Inks kEven{0xFF8040, kGrey};
 
 }  // namespace
 
-constinit const PictureStore PicRAM3{"PicRAM3", 0, 1, false, [](int) { return kCardSize; }, drawBack};
+constinit const PictureStore PicRAM3 = singlePicture<kCardSize>("PicRAM3", drawBack);
 constinit const PictureStore rampul1 = plateStore<"Segna", Size{37, 13}, kWhite, kRed>("rampul1");
-constinit const PictureStore rampul2{"rampul2", 0, 1, false, [](int) { return kExchangeSize; }, drawExchange};
+constinit const PictureStore rampul2 = singlePicture<kExchangeSize>("rampul2", drawExchange);
 constinit const PictureStore ramlas = plateStore<"lascia", Size{46, 15}, kWhite, kBlue>("ramlas");
-constinit const PictureStore scambiaram{"scambiaram", 0, 1, false, [](int) { return kSwapSize; }, drawSwap};
-constinit const PictureStore RAMRESULT{"RAMRESULT", 0, 1, false, [](int) { return kScoreSize; }, drawScore};
+constinit const PictureStore scambiaram = singlePicture<kSwapSize>("scambiaram", drawSwap);
+constinit const PictureStore RAMRESULT = singlePicture<kScoreSize>("RAMRESULT", drawScore);
 constinit const PictureStore rampar = endStore<kEven, kEven>("rampar");
 constinit const PictureStore ramvin = endStore<kPlain, kLit>("ramvin");
 constinit const PictureStore ramper = endStore<kLit, kPlain>("ramper");

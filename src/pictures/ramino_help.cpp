@@ -101,6 +101,6 @@ void drawHelp(Painter& painter, int) {
 
 }  // namespace
 
-constinit const PictureStore Picram{"Picram", 0, 1, false, [](int) { return kSize; }, drawHelp};
+constinit const PictureStore Picram = singlePicture<kSize>("Picram", drawHelp);
 
 }  // namespace tombolario::pictures

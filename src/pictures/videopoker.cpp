@@ -66,8 +66,7 @@ void drawStripes(Painter& painter, int) {
 
 }  // namespace
 
-constinit const PictureStore Pictcomvidpok{"Pictcomvidpok", 0, 1, false, [](int) { return kPayTableSize; },
-                                           drawPayTable};
+constinit const PictureStore Pictcomvidpok = singlePicture<kPayTableSize>("Pictcomvidpok", drawPayTable);
 constinit const PictureStore segn{"segn", 0, 11, true, litRowSize, drawLitRow};
 // These four are wider than the buttons that show them, 169 pixels.
 constexpr int kButtonRoom = 155;
@@ -79,7 +78,6 @@ constinit const PictureStore SALVPOK1 =
     plateStore<"SALVA", Size{205, 18}, kYellow, kRed, kButtonRoom>("SALVPOK1");
 constinit const PictureStore SALVPOK2 =
     plateStore<"NON SALVABILE", Size{205, 18}, kYellow, kRed, kButtonRoom>("SALVPOK2");
-constinit const PictureStore striscie{"striscie", 0, 1, false, [](int) { return Size{432, 196}; },
-                                      drawStripes};
+constinit const PictureStore striscie = singlePicture<Size{432, 196}>("striscie", drawStripes);
 
 }  // namespace tombolario::pictures

@@ -20,23 +20,35 @@ struct PictureStore {
   Vec hotSpot{};                              ///< of a cursor: the pixel that points
 };
 
+/// A store of one picture of that size.
+template <Size kSize>
+constexpr PictureStore singlePicture(std::string_view name, void (*draw)(Painter& painter, int),
+                                     Vec hotSpot = {}) {
+  return {name, 0, 1, false, [](int) { return kSize; }, draw, hotSpot};
+}
+
+/// A store of pictures of that size, numbered from the first.
+template <Size kSize>
+constexpr PictureStore pictureRow(std::string_view name, int first, int count,
+                                  void (*draw)(Painter& painter, int index)) {
+  return {name, first, count, true, [](int) { return kSize; }, draw};
+}
+
 /// A picture by its store and its index, or no picture at all. Cheap to copy and to compare.
 class PictureId {
  public:
   PictureId() = default;
-  /// The index must be one of the store's.
-  PictureId(const PictureStore& store, int index = 0) : store_(&store), index_(index) {}
+  /// Throws std::out_of_range where the index is none of the store's.
+  PictureId(const PictureStore& store, int index);
+  /// The one picture of the store, or its first.
+  PictureId(const PictureStore& store) : PictureId(store, store.first) {}
 
   explicit operator bool() const { return store_ != nullptr; }
   const PictureStore& store() const { return *store_; }
   int index() const { return index_; }
 
   /// `Picture1(12)`, `CONTPOK1`, or `none`.
-  std::string name() const {
-    if (store_ == nullptr) return "none";
-    std::string name(store_->name);
-    return store_->numbered ? name + '(' + std::to_string(index_) + ')' : name;
-  }
+  std::string name() const;
   /// In pixels; zero by zero without a picture.
   Size size() const { return store_ != nullptr ? store_->size(index_) : Size{}; }
   void draw(Painter& painter) const {
