@@ -48,7 +48,7 @@ struct Screen {
   std::initializer_list<const char*> way;  ///< the buttons that lead to it
 };
 
-/// The twelve screens, each as full as it gets.
+/// The screens, each as full as it gets.
 const Screen kScreens[] = {
     {"MainMenu", {}},
     {"PokerOptions", {"commpr(1)"}},

@@ -27,7 +27,7 @@ TEST(Driver, ABadCommandAnswersAnErrorAndChangesNothing) {
                           "over",
                           "over Nobody",
                           "over Pict",
-                          "over commpr(7)",
+                          "over commpr(99)",
                           "over Command8",
                           "click Command8",
                           "click Framecen",

@@ -210,10 +210,7 @@ Invariants::Invariants(Form& room)
               {chain(room)},
               {ramino(room)},
               {mahjongg(room)}}} {
-  for (const Control* control : room.controls()) {
-    if (control->parent() == &room) screens_.push_back(control);
-  }
-  require(screens_.size() == 12, "not twelve screens");
+  screens_.assign(room.children().begin(), room.children().end());
   for (const char* name : {"Label2", "Label5", "Label6", "hum1", "comp1", "scoredom1", "scoredom2",
                            "domcont1", "domcont2", "PRAMC", "PRAMH", "Lpuca", "Lmacatpu", "Llivpuca",
                            "Label3ca", "Label10ca", "Label14ca", "SCALABELCAT", "Lll1"}) {

@@ -1,11 +1,10 @@
+#include <set>
+
 #include "session.hpp"
 #include "toolkit/view.hpp"
 
 namespace tombolario {
 namespace {
-
-const char* const kScreens[] = {"Frameprincipale", "Frame2", "Frame2BIS", "Frame3", "Frame3BIS", "FRAME5",
-                                "Frame5BIS",       "Frame4", "Frame4BIS", "frame6", "Frame6bis", "Frame7"};
 
 class MainMenuTest : public testing::Test {
  protected:
@@ -26,43 +25,49 @@ class MainMenuTest : public testing::Test {
   }
   void expectScreen(const std::string& wanted) {
     EXPECT_EQ(room("screen"), wanted);
-    for (const char* screen : kScreens) {
-      EXPECT_EQ(room.get(screen, "Visible"), screen == wanted ? "1" : "0") << screen;
+    for (const Control* screen : screens()) {
+      EXPECT_EQ(screen->Visible, screen->name().text() == wanted) << screen->name().text();
     }
   }
 
+  const std::vector<Control*>& screens() { return room.driver.form().children(); }
+
+  static constexpr const char* kMenu = "Frameprincipale";
   Session room;
 };
 
 TEST_F(MainMenuTest, EveryScreenIsReachedAndLeft) {
-  expectScreen("Frameprincipale");
+  expectScreen(kMenu);
   struct Way {
     const char* control;
     const char* screen;
   };
+  std::set<std::string> seen{kMenu};
   for (const auto& [control, screen] : std::initializer_list<Way>{
-           {"commpr(1)", "Frame2"},   {"Command44", "Frame2BIS"}, {"Command55", "Frame2"},
-           {"menupok", kScreens[0]},  {"commpr(2)", "Frame3"},    {"Command8", "Frame3BIS"},
-           {"Command5", "Frame3"},    {"MENUVP", kScreens[0]},    {"commpr(3)", "FRAME5"},
-           {"giocodom", "Frame5BIS"}, {"FINEDOM", "FRAME5"},      {"MENUDOM", kScreens[0]},
-           {"commpr(4)", "Frame4"},   {"INICAT", "Frame4BIS"},    {"FINECA", "Frame4"},
-           {"menucat", kScreens[0]},  {"commpr(5)", "frame6"},    {"GIOCORAM", "Frame6bis"},
-           {"ramesc", "frame6"},      {"MENURAM", kScreens[0]},   {"commpr(6)", "Frame7"},
-           {"Command17", kScreens[0]}}) {
+           {"commpr(1)", "Frame2"}, {"Command44", "Frame2BIS"}, {"Command55", "Frame2"}, {"menupok", kMenu},
+           {"commpr(2)", "Frame3"}, {"Command8", "Frame3BIS"},  {"Command5", "Frame3"},  {"MENUVP", kMenu},
+           {"commpr(3)", "FRAME5"}, {"giocodom", "Frame5BIS"},  {"FINEDOM", "FRAME5"},   {"MENUDOM", kMenu},
+           {"commpr(4)", "Frame4"}, {"INICAT", "Frame4BIS"},    {"FINECA", "Frame4"},    {"menucat", kMenu},
+           {"commpr(5)", "frame6"}, {"GIOCORAM", "Frame6bis"},  {"ramesc", "frame6"},    {"MENURAM", kMenu},
+           {"commpr(6)", "Frame7"}, {"Command17", kMenu}}) {
     room.play({(std::string("click ") + control).c_str()});
     expectScreen(screen);
     EXPECT_EQ(room.get(control, "MousePointer"), "99") << control;
     EXPECT_EQ(room.get(control, "MouseIcon"), "Label13") << control;
     EXPECT_EQ(hovered(), "") << "after " << control;
+    seen.insert(screen);
+  }
+  for (const Control* screen : screens()) {
+    EXPECT_TRUE(seen.contains(screen->name().text())) << "no way leads to " << screen->name().text();
   }
 }
 
 TEST_F(MainMenuTest, EveryScreenHasItsSize) {
   room.expect({"LPOKER Width=12015", "LCATENA Width=12120", "Label10 Width=12120", "LVIDPOK Width=12120"});
-  for (const char* screen : kScreens) {
-    const std::string name = screen;
-    EXPECT_EQ(room.get(name, "Width"), name == "Frame2" ? "12000" : name == "Frame2BIS" ? "12120" : "12015");
-    EXPECT_EQ(room.get(name, "Height"), name == "Frame2" ? "8775" : "8655") << name;
+  for (const Control* screen : screens()) {
+    const std::string name = screen->name().text();
+    EXPECT_EQ(screen->Width, name == "Frame2" ? 12000 : name == "Frame2BIS" ? 12120 : 12015) << name;
+    EXPECT_EQ(screen->Height, name == "Frame2" ? 8775 : 8655) << name;
   }
 }
 
