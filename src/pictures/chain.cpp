@@ -11,7 +11,7 @@ namespace tombolario::pictures {
 namespace {
 
 constexpr Size kTileSize{91, 45};
-constexpr Slots<Rgb, 0, 3> kNumerals{kRed, 0x800000, kBlue, 0x008000};
+constexpr Slots<Rgb, 0, 3> kNumerals = slots<0, Rgb>({kRed, 0x800000, kBlue, 0x008000});
 
 /// A value is shown as a numeral, from 1, in a colour of its own.
 void drawTile(Painter& painter, int tile) {

@@ -11,8 +11,8 @@ constexpr Size kTileSize{92, 52};
 constexpr Rect kTile{0, 0, kTileSize.width, kTileSize.height};
 
 /// By the numbers that they stand for.
-constexpr Slots<const PictureStore*, 0, kNumbers - 1> kFlags{
-    &spagnadom, &brasiledom, &giapponedom, &usadom, &sveziadom, &portogallodom, &danimarcadom};
+constexpr Slots<const PictureStore*, 0, kNumbers - 1> kFlags = slots<0, const PictureStore*>(
+    {&spagnadom, &brasiledom, &giapponedom, &usadom, &sveziadom, &portogallodom, &danimarcadom});
 
 /// White, a line down the middle, and the flags of both numbers.
 void drawTile(Painter& painter, int face) {

@@ -197,7 +197,7 @@ void ring(Painter& painter) {
 }
 
 /// By kind, at the size of the bench.
-constexpr Slots<Design, 0, kKinds - 1> kDesigns{
+constexpr Slots<Design, 0, kKinds - 1> kDesigns = slots<0, Design>({
     ring,
     sun,
     diagonals<kYellow, kBlack>,
@@ -228,7 +228,7 @@ constexpr Slots<Design, 0, kKinds - 1> kDesigns{
     rose,
     quarters<kBlack, kWhite, kWhite, kBlack>,
     bands<kOrange, kBlue, kOrange, kBlue>,
-};
+});
 
 /// The rows 5 to 28 of the bench show the pictures of its store from the last to the sixth.
 constexpr int kindOfBench(int index) { return index < 5 ? index : 33 - index; }

@@ -14,17 +14,17 @@ struct LitRow {
   double middle;
   int height;
 };
-constexpr Slots<LitRow, 0, 10> kLitRows{{{{9, 19},
-                                          {7.7, 19},
-                                          {6.9, 17},
-                                          {8.5, 17},
-                                          {8.6, 17},
-                                          {8.3, 17},
-                                          {8.5, 17},
-                                          {8.8, 17},
-                                          {8.5, 17},
-                                          {8.2, 17},
-                                          {10.3, 20}}}};
+constexpr Slots<LitRow, 0, 10> kLitRows = slots<0, LitRow>({{9, 19},
+                                                            {7.7, 19},
+                                                            {6.9, 17},
+                                                            {8.5, 17},
+                                                            {8.6, 17},
+                                                            {8.3, 17},
+                                                            {8.5, 17},
+                                                            {8.8, 17},
+                                                            {8.5, 17},
+                                                            {8.2, 17},
+                                                            {10.3, 20}});
 
 constexpr Size kPayTableSize{156, 191};
 
@@ -42,7 +42,7 @@ void drawPayRow(Painter& painter, int row) {
 
 void drawPayTable(Painter& painter, int) {
   painter.fillRect({0, 0, kPayTableSize.width, kPayTableSize.height}, kRed);
-  for (int row = 0; row <= 10; ++row) {
+  for (int row = 0; row < static_cast<int>(kPayTable.items.size()); ++row) {
     const double top = kPayTable[row].top / double{kTwipsPerPixel};
     painter.enter({0, top, kPayTableSize.width, static_cast<double>(kLitRows[row].height)});
     drawPayRow(painter, row);
@@ -67,7 +67,7 @@ void drawStripes(Painter& painter, int) {
 }  // namespace
 
 constinit const PictureStore Pictcomvidpok = singlePicture<kPayTableSize>("Pictcomvidpok", drawPayTable);
-constinit const PictureStore segn{"segn", 0, 11, true, litRowSize, drawLitRow};
+constinit const PictureStore segn{"segn", 0, kPayTable.items.size(), true, litRowSize, drawLitRow};
 // These four are wider than the buttons that show them, 169 pixels.
 constexpr int kButtonRoom = 155;
 constinit const PictureStore CONTPOK1 =

@@ -21,6 +21,13 @@ struct Slots {
   constexpr operator std::span<T>() { return items; }
 };
 
+/// A row of just these values, so that a table with one too few does not compile:
+/// `constexpr Slots<int, 1, 3> kTable = slots<1, int>({4, 5, 6})`.
+template <int First, class T, std::size_t N>
+constexpr Slots<T, First, First + static_cast<int>(N) - 1> slots(const T (&values)[N]) {
+  return {std::to_array(values)};
+}
+
 /// The numbers of the games have 16 bits.
 template <int First, int Last>
 using Numbers = Slots<std::int16_t, First, Last>;
