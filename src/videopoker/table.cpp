@@ -84,11 +84,11 @@ void Table::Command3_Click() {
     Command2[i].Visible = false;
     Frame1[i].BackColor = kAtRest;
   }
-  segn[scoring.row()].Visible = true;
+  segn[scoring.row].Visible = true;
   showGroups(scoring);
   Command3.Enabled = false;
   Command1.Enabled = true;
-  game_.pay(scoring.row());
+  game_.pay(scoring.row);
   if (game_.spent()) endCredit();
 }
 
@@ -98,9 +98,8 @@ void Table::changeMarkedCards() {
 }
 
 void Table::showGroups(const Scoring& scoring) {
-  const Hand hand = game_.hand();
   for (int i = 0; i < kHandSize; ++i) {
-    switch (groupOf(scoring, hand.value[i])) {
+    switch (scoring.groups[i]) {
       case Group::None: break;
       case Group::First: Frame1[i].BackColor = kFirstGroup; break;
       case Group::Second: Frame1[i].BackColor = kSecondGroup; break;
