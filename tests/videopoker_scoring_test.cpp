@@ -3,7 +3,6 @@
 #include <gtest/gtest.h>
 
 #include <array>
-#include <cstdio>
 
 #include "sanitized.hpp"
 #include "videopoker_reckoning.hpp"
@@ -38,7 +37,6 @@ TEST(Scoring, AgreesWithThePlainDescriptionOnEveryHand) {
                                 << cards[4] << " scores row " << scoring.row << ", should be " << row;
           }
   EXPECT_EQ(hands, 2'869'685);
-  for (std::size_t row = 0; row < rows.size(); ++row) std::printf("row %2zu: %8ld hands\n", row, rows[row]);
   if (kStep == 1) {
     // Known from the pack of 52: each plain hand without the joker is among these.
     EXPECT_EQ(rows[kFive], 13);

@@ -1,8 +1,6 @@
 #include "videopoker/rules.hpp"
 
-#include <algorithm>
-#include <limits>
-
+#include "pieces/number.hpp"
 #include "pieces/pay_tables.hpp"
 
 namespace tombolario::videopoker {
@@ -13,65 +11,94 @@ constexpr int kShuffled = 52;  // slots of the pack that a deal fills
 
 }  // namespace
 
-void VideoPoker::fillTables() {
-  fillCardTables(valoreCartaVP, semeCartaVP);
-  valoreCartaVP[kPack] = kJokerValue;
-  semeCartaVP[kPack] = kJokerSuit;
+void VideoPoker::begin(UniformSource& uniform) {
+  if (place_ == Place::Table) return;
+  startRun(kFirstBalance, 0);
+  avvioVIDEO(uniform);
 }
 
-void VideoPoker::begin() {
-  fillTables();
-  saldoVP = saldoInizioVP = kFirstBalance;
+void VideoPoker::load(std::int16_t stored, UniformSource& uniform) {
+  if (place_ == Place::Table || !mayLoad_) return;
+  mayLoad_ = stored > kFee;
+  if (!mayLoad_) return;
+  startRun(stored, kFee);
+  avvioVIDEO(uniform);
+}
+
+void VideoPoker::goOn() {
+  if (place_ != Place::Summary || !open_) return;
+  maniVP = 0;
+  open_ = saldoVP > kFee;
+  if (open_) startRun(saldoVP, kFee);
+}
+
+bool VideoPoker::save() {
+  if (place_ != Place::Summary) return false;
+  open_ = saldoVP > kFee;
+  return open_;
+}
+
+void VideoPoker::end() {
+  if (place_ != Place::Table) return;
+  place_ = Place::Menu;
+  if (phase_ == Phase::Dealt) phase_ = Phase::NoHand;
+  litRow_.reset();
+}
+
+void VideoPoker::leave() {
+  if (place_ == Place::Summary) place_ = Place::Menu;
+}
+
+void VideoPoker::newHand(UniformSource& uniform) {
+  if (place_ == Place::Table && phase_ == Phase::Scored) avvioVIDEO(uniform);
+}
+
+void VideoPoker::toggleMark(int position) {
+  if (place_ == Place::Table && phase_ == Phase::Dealt) marked_[position] = !marked_[position];
+}
+
+void VideoPoker::change() {
+  if (place_ != Place::Table || phase_ != Phase::Dealt) return;
+  const auto from = slotsAfterChange(marked_);
+  for (int i = 0; i < kHandSize; ++i) mazzoVP[i] = mazzoVP[from[i]];
+  const Scoring scoring = score(hand());
+  marked_ = {};
+  groups_ = scoring.groups;
+  litRow_ = scoring.row;
+  phase_ = Phase::Scored;
+  add(saldoVP, kPayTable[scoring.row].amount);
+  if (!spent()) return;
+  place_ = Place::Summary;
+  open_ = false;
+}
+
+/// To the table, with a balance that the fee is still to be taken from.
+void VideoPoker::startRun(std::int16_t balance, int fee) {
+  place_ = Place::Table;
+  open_ = mayLoad_ = true;
+  saldoVP = saldoInizioVP = balance;
+  add(saldoVP, -fee);
   maniVP = 0;
 }
 
-bool VideoPoker::load(std::int16_t stored) {
-  saldoFileVP = stored;
-  if (saldoFileVP <= kFee) return false;
-  saldoInizioVP = saldoFileVP;
-  saldoVP = static_cast<std::int16_t>(saldoFileVP - kFee);
-  fillTables();
-  maniVP = 0;
-  return true;
-}
-
-bool VideoPoker::goOn() {
-  maniVP = 0;
-  if (saldoVP <= kFee) return false;
-  saldoInizioVP = saldoVP;
-  saldoVP = static_cast<std::int16_t>(saldoVP - kFee);
-  return true;
-}
-
-bool VideoPoker::avvioVIDEO(UniformSource& uniform) {
+void VideoPoker::avvioVIDEO(UniformSource& uniform) {
   deal(uniform, mazzoVP, 0, kShuffled - 1, kCards);
-  ++maniVP;
-  for (int slot = 0; slot < kSlots; ++slot) {
-    valoreVP[slot] = valoreCartaVP[card(slot)];
-    semeVP[slot] = semeCartaVP[card(slot)];
-  }
-  return maniVP == kRunDeals;
-}
-
-OfHand<int> VideoPoker::change(const Marks& marked) {
-  const auto from = slotsAfterChange(marked);
-  for (int i = 0; i < kHandSize; ++i) {
-    valoreVP[i] = valoreVP[from[i]];
-    semeVP[i] = semeVP[from[i]];
-  }
-  return from;
+  phase_ = Phase::Dealt;
+  marked_ = {};
+  groups_ = {};
+  litRow_.reset();
+  add(maniVP, 1);
+  if (runOver()) place_ = Place::Summary;
 }
 
 Hand VideoPoker::hand() const {
   Hand hand;
-  std::copy_n(valoreVP.begin(), kHandSize, hand.value.begin());
-  std::copy_n(semeVP.begin(), kHandSize, hand.suit.begin());
+  for (int i = 0; i < kHandSize; ++i) {
+    const bool joker = card(i) == kPack;
+    hand.value[i] = joker ? kJokerValue : static_cast<std::int16_t>(cardValue(card(i)));
+    hand.suit[i] = joker ? kJokerSuit : static_cast<std::int16_t>(cardSuit(card(i)));
+  }
   return hand;
-}
-
-void VideoPoker::pay(Row row) {
-  const int sum = saldoVP + kPayTable[row].amount;
-  saldoVP = static_cast<std::int16_t>(std::min<int>(sum, std::numeric_limits<std::int16_t>::max()));
 }
 
 }  // namespace tombolario::videopoker

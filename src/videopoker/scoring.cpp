@@ -24,16 +24,15 @@ Row rowOf(const Hand& hand) {
     default: break;
   }
 
-  // All cards differ, and the joker, sorted last, fills a gap, stands at an end or takes the suit of the
-  // others.
+  // All values differ, and the joker, sorted last, fills a gap, stands at an end or takes a suit.
   const auto values = sortedValues(hand);
   const int highest = values[joker ? 3 : 4];
   const bool ace = values[0] == 0;
   const bool sequence = highest - values[0] <= 4 || (ace && values[1] >= 9);
   if (pairs.inSuit == (joker ? 6 : 10)) {
     if (sequence) return kStraightFlush;
-    return hand.suit[1] == kRedSuit ? kRedFlush
-                                    : kFlush;  // only the second card is asked, and the joker is not red
+    // Only the second card is asked for its suit, and the joker is not red.
+    return hand.suit[1] == kRedSuit ? kRedFlush : kFlush;
   }
   // Beside an ace the joker has no lower limit: ace, 4, 5, 6 and the joker are a straight too.
   if (sequence || (joker && ace && highest - values[1] <= 3)) return kStraight;
