@@ -244,10 +244,10 @@ TEST_F(RecordFileTest, AKilledProgramLeavesTheOldNumbersOrTheNewOnes) {
       }
     }
     ASSERT_GT(child, 0);
-    char byte = 0;
-    EXPECT_EQ(::read(ready[0], &byte, 1), 1);
-    close(ready[0]);
     close(ready[1]);
+    char byte = 0;
+    EXPECT_EQ(::read(ready[0], &byte, 1), 1) << "the child has died";
+    close(ready[0]);
     usleep(static_cast<useconds_t>(engine() % 1500));
     kill(child, SIGKILL);
     int status = 0;

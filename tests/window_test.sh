@@ -157,17 +157,32 @@ must "the menu of video poker" shows ffff00 "${new_game[@]}"
 click "${menu[@]}"
 must "the main menu again" shows ff8000 "${banner[@]}"
 
-# Another window takes the focus of a press, and its release with it. The next click is one, for all that.
+# Another window takes the focus in the middle of a press.
 (cd -- "$scratch" && exec "$program") &
 thief_pid=$!
 thief=$(timeout "$patience" xdotool search --sync --onlyvisible --pid "$thief_pid" | tail -n 1) ||
   die "a second window does not open"
 xdotool windowmove --sync "$thief" 850 600 windowfocus --sync "$window"
+
+# A release that comes here for all that is no press, even right after a move.
+point_at "${bare_ground[@]}"
+xdotool mousedown 1 windowfocus --sync "$thief"
+sleep 0.5
+locate "${first_game[@]}"
+xdotool mousemove "$x" "$y" mouseup 1
+point_at "${videopoker[@]}"
+must "the button under the mouse" shows 0000ff "${videopoker[@]}"
+shows ff8000 "${banner[@]}" || die "a release has opened a game"
+xdotool windowfocus --sync "$window"
+
+# One that another window takes never comes; the next click is one all the same.
 point_at "${email[@]}"
 must "the link under the mouse" shows ff8000 "${email[@]}"
 xdotool mousedown 1
 must "the pressed link" shows ffff00 "${email[@]}"
-xdotool windowfocus --sync "$thief" mousemove 1200 900 mouseup 1
+xdotool windowfocus --sync "$thief"
+sleep 0.5 # the room hears of it
+xdotool mousemove 1200 900 mouseup 1
 kill -KILL "$thief_pid"
 wait "$thief_pid" 2>/dev/null || true
 click "${videopoker[@]}"
@@ -219,6 +234,13 @@ grep -i compos "$scratch/complaints" && die "the rules for composing letters are
 kill "$room_pid"
 must "the room ends on Wayland" room_has_ended
 room_pid=
+
+# There without a surface, as SDL is told: it says so.
+status=0
+env -u DISPLAY -u SDL_VIDEODRIVER WAYLAND_DISPLAY=desktop SDL_FRAMEBUFFER_ACCELERATION=0 timeout "$patience" "$program" \
+  2>"$scratch/complaints" || status=$?
+((status == 1)) || die "without a surface the room ends with status $status"
+grep -q '^Tombolario non può aprire la sua finestra' "$scratch/complaints" || die "it does not say why"
 kill "$weston_pid"
 
 status=0

@@ -13,8 +13,9 @@ namespace {
 
 constexpr Uint32 kCairoFormat = SDL_PIXELFORMAT_RGB888;  // what Cairo calls RGB24
 
+constexpr int kLastButton = 31;
+
 MouseButton buttonOf(const SDL_MouseButtonEvent& event) {
-  constexpr int kLastButton = 31;
   switch (event.button) {
     case SDL_BUTTON_LEFT: return MouseButton::Left;
     case SDL_BUTTON_RIGHT: return MouseButton::Right;
@@ -28,8 +29,10 @@ MouseButton buttonOf(const SDL_MouseButtonEvent& event) {
 class Meanwhile {
 #ifdef __unix__
  public:
-  Meanwhile(const char* name, const char* value) : name_(name), set_(std::getenv(name) != nullptr) {
-    setenv(name_, value, 0);
+  Meanwhile(const char* name, const char* value) : name_(name) {
+    const char* present = std::getenv(name_);
+    set_ = present != nullptr && *present != '\0';
+    if (!set_) setenv(name_, value, 1);
   }
   Meanwhile(const Meanwhile&) = delete;
   Meanwhile& operator=(const Meanwhile&) = delete;
@@ -71,7 +74,9 @@ bool runsOn(std::string_view driver) {
 }
 
 CannotOpen noWindow() {
-  return CannotOpen(std::string("Tombolario non può aprire la sua finestra (") + SDL_GetError() + ").");
+  const std::string reason = SDL_GetError();
+  return CannotOpen("Tombolario non può aprire la sua finestra" +
+                    (reason.empty() ? "." : " (" + reason + ")."));
 }
 
 /// What was drawn, to be read as long as that lives.
@@ -156,7 +161,7 @@ void Window::handle(const SDL_Event& event) {
 }
 
 void Window::button(const SDL_MouseButtonEvent& event) {
-  const Uint32 bit = SDL_BUTTON(event.button);
+  const Uint32 bit = 1U << static_cast<unsigned>(std::min(event.button - 1, kLastButton));
   const bool pressed = event.type == SDL_MOUSEBUTTONDOWN;
   view_.mouseAt(event.x * density_, event.y * density_);
   if (pressed || (lost_ & bit) != 0) form_.mouseDown(buttonOf(event));
@@ -167,8 +172,12 @@ void Window::button(const SDL_MouseButtonEvent& event) {
 
 void Window::lookForLostReleases() {
   if (awaited_ == 0) return;
-  lost_ |= awaited_ & ~SDL_GetGlobalMouseState(nullptr, nullptr);
-  awaited_ &= ~lost_;
+  const Uint32 up = awaited_ & ~SDL_GetGlobalMouseState(nullptr, nullptr);
+  // What is up now and has come here is on its way to be handled.
+  SDL_PumpEvents();
+  if (up == 0 || SDL_HasEvent(SDL_MOUSEBUTTONUP) == SDL_TRUE) return;
+  lost_ |= up;
+  awaited_ &= ~up;
 }
 
 void Window::fit() {
@@ -206,7 +215,7 @@ void Window::draw() {
 void Window::paintOn(SDL_Surface& surface) {
   const Owned<cairo_surface_t> canvas(cairo_image_surface_create_for_data(
       static_cast<unsigned char*>(surface.pixels), CAIRO_FORMAT_RGB24, surface.w, surface.h, surface.pitch));
-  if (view_.marginX() > 0 || view_.marginY() > 0) SDL_FillRect(&surface, nullptr, form_.inSight().BackColor.get().rgb());
+  if (view_.hasMargins()) SDL_FillRect(&surface, nullptr, form_.inSight().BackColor.get().rgb());
   cairo_surface_set_device_offset(canvas.get(), view_.marginX(), view_.marginY());
   CairoPainter painter(canvas.get(), view_.scale(), cache_);
   form_.repaint(painter);

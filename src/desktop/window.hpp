@@ -76,7 +76,7 @@ class Window {
   // Buttons, a bit for each. With the focus the window may lose a release to another window; SDL takes the
   // button to be down still, and then tells of the release of its next press alone.
   Uint32 awaited_ = 0;  // down when the focus went
-  Uint32 lost_ = 0;     // and found up since
+  Uint32 lost_ = 0;     // found up since, without a word
 };
 
 }  // namespace tombolario

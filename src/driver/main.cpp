@@ -1,3 +1,4 @@
+#include <csignal>
 #include <iostream>
 
 #include "driver/driver.hpp"
@@ -7,6 +8,9 @@
 #endif
 
 int main() {
+#ifdef SIGXFSZ
+  std::signal(SIGXFSZ, SIG_IGN);  // a picture that may not grow cannot be written, that is all
+#endif
   tombolario::DataDirectory dataFiles(".");
 #ifdef TOMBOLARIO_DRAWS
   tombolario::CairoCamera camera;

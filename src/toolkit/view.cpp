@@ -17,6 +17,7 @@ void View::fit(int width, int height) {
   scale_ = std::max(kSmallestScale, std::min(width / roomWidth, height / roomHeight));
   marginX_ = static_cast<int>((width - roomWidth * scale_) / 2);
   marginY_ = static_cast<int>((height - roomHeight * scale_) / 2);
+  hasMargins_ = std::lround(roomWidth * scale_) < width || std::lround(roomHeight * scale_) < height;
 }
 
 void View::mouseAt(double x, double y) {

@@ -16,6 +16,8 @@ class View {
   double scale() const { return scale_; }
   int marginX() const { return marginX_; }  ///< left of the room
   int marginY() const { return marginY_; }  ///< above it
+  /// Whether anything of the window lies beside the room, if only a pixel.
+  bool hasMargins() const { return hasMargins_; }
 
   /// The mouse is there, maybe outside the room. A place that it is at already is no move: a window tells the
   /// place with every press and release, too.
@@ -26,6 +28,7 @@ class View {
   double scale_ = 1;
   int marginX_ = 0;
   int marginY_ = 0;
+  bool hasMargins_ = false;
   Point mouse_{-1, -1};  // in the room
 };
 

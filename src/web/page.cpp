@@ -44,11 +44,18 @@ void Page::pointer(double x, double y, unsigned buttons) {
   showCursor();
 }
 
+void Page::lose() {
+  form_.mouseLost();
+  buttons_ = 0;
+  showCursor();
+}
+
 void Page::draw() {
   const int x = view_.marginX();
   const int y = view_.marginY();
   CanvasPainter painter(kPageCanvas, {double(x), double(y)}, view_.scale(), cache_);
-  if (x > 0 || y > 0) canvas_fill_rect(kPageCanvas, -x, -y, width_, height_, form_.inSight().BackColor.get().rgb());
+  if (view_.hasMargins())
+    canvas_fill_rect(kPageCanvas, -x, -y, width_, height_, form_.inSight().BackColor.get().rgb());
   form_.repaint(painter);
 }
 
@@ -80,6 +87,7 @@ EMSCRIPTEN_KEEPALIVE void page_fit(Page* page, int width, int height, double den
 EMSCRIPTEN_KEEPALIVE void page_pointer(Page* page, double x, double y, unsigned buttons) {
   page->pointer(x, y, buttons);
 }
+EMSCRIPTEN_KEEPALIVE void page_lose(Page* page) { page->lose(); }
 EMSCRIPTEN_KEEPALIVE bool page_needs_drawing(const Page* page) { return page->needsDrawing(); }
 EMSCRIPTEN_KEEPALIVE void page_draw(Page* page) { page->draw(); }
 EMSCRIPTEN_KEEPALIVE void page_forget(Page* page) { page->forget(); }

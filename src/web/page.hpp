@@ -17,6 +17,8 @@ class Page {
   /// The pointer is there, with the buttons down that have their bits set: 1 left, 2 right, 4 middle, 8 back,
   /// 16 forward.
   void pointer(double x, double y, unsigned buttons);
+  /// What is held down is released elsewhere.
+  void lose();
   bool needsDrawing() const { return form_.needsDrawing(); }
   void draw();
   /// What was drawn is lost, the pictures that are kept with it.

@@ -25,10 +25,10 @@ function play(room) {
   // One pointer at a time: the one that holds a button down, then whichever moves.
   let holder = null;
 
-  // A press that the browser or another program takes away ends outside the room, and so clicks nothing.
+  // A press that the browser or another program takes away clicks nothing.
   function end() {
     holder = null;
-    room._page_pointer(page, -1, -1, 0);
+    room._page_lose(page);
   }
 
   function point(event) {
