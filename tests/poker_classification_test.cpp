@@ -8,14 +8,12 @@
 namespace tombolario::poker {
 namespace {
 
-using reckoning::handOf;
-
-std::string frameOf(Part part) {
-  switch (part) {
-    case Part::None: return "3d-light";
-    case Part::FirstGroup: return "0x00FF00";
-    case Part::SecondGroup: return "0xC0FFC0";
-    case Part::Top: return "0xFFFF00";
+std::string frameOf(Role role) {
+  switch (role) {
+    case Role::None: return "3d-light";
+    case Role::FirstGroup: return "0x00FF00";
+    case Role::SecondGroup: return "0xC0FFC0";
+    case Role::Top: return "0xFFFF00";
   }
   return {};
 }
@@ -41,14 +39,13 @@ TEST(PokerClassification, AgreesWithThePlainDescriptionOnEveryHand) {
             if (++hands % kStep != 0) continue;
             auto cards = c;
             std::rotate(cards.begin(), cards.begin() + hands % 5, cards.end());
-            const Classification found = classify(handOf(cards));
+            const Classification found = classify({cards});
             const reckoning::PlainHand plain = reckoning::reckon(cards);
             ++counts.at(static_cast<std::size_t>(plain.kind));
             bool agrees =
                 found.kind == plain.kind && found.text() == plain.text && compared(found) == plain.compared;
             for (std::size_t i = 0; i < cards.size(); ++i) {
-              agrees = agrees && frameOf(partOf(found, static_cast<std::int16_t>(cards.at(i) % 13))) ==
-                                     plain.frames.at(i);
+              agrees = agrees && frameOf(found.roleOf(cards.at(i))) == plain.frames.at(i);
             }
             ASSERT_TRUE(agrees) << cards[0] << ' ' << cards[1] << ' ' << cards[2] << ' ' << cards[3] << ' '
                                 << cards[4] << ": " << found.text() << ", should be " << plain.text;
@@ -82,11 +79,11 @@ TEST(PokerClassification, TellsApartTheHandsThatDifferByLittle) {
       {{0, 13, 2, 4, 6}, "coppia   A", 0},
   }};
   for (const auto& [cards, text, top] : examples) {
-    const Classification found = classify(handOf(cards));
+    const Classification found = classify({cards});
     EXPECT_EQ(found.text(), text);
     EXPECT_EQ(found.cimapok, top) << text;
   }
-  EXPECT_EQ(classify(handOf({0, 13, 2, 4, 6})).confrontopok[0], 13);
+  EXPECT_EQ(classify({{0, 13, 2, 4, 6}}).confrontopok[0], 13);
 }
 
 }  // namespace

@@ -8,23 +8,10 @@
 #include <string>
 #include <vector>
 
-#include "pieces/hand.hpp"
-
 /// Poker against the computer by its plain description, to hold the game against. Cards are numbers, 0 to 51.
 namespace tombolario::reckoning {
 
 using Five = std::array<int, 5>;
-
-/// The cards as the game holds them.
-inline Hand handOf(const Five& cards) {
-  Hand hand;
-  for (int i = 0; i < kHandSize; ++i) {
-    const int card = cards.at(static_cast<std::size_t>(i));
-    hand.value[i] = static_cast<std::int16_t>(card % 13);
-    hand.suit[i] = static_cast<std::int16_t>(card / 13 + 1);
-  }
-  return hand;
-}
 
 struct PlainHand {
   int kind = 0;

@@ -16,10 +16,10 @@ enum class Counting { ByHand, ByClass };
 enum class Side { Nobody, Player, Computer };
 
 /// Who wins the hand.
-Side winner(const Classification& classehum, const Classification& classecom, Level level);
+Side winner(const Classification& player, const Classification& computer, Level level);
 
-/// What the hand counts for the side that wins it.
-std::int16_t points(const Classification& hand, Counting counting);
+/// What a hand of the class counts for the side that wins it.
+std::int16_t points(HandClass kind, Counting counting);
 
 /// A match ends with the first score above this.
 std::int16_t limit(Counting counting);

@@ -16,6 +16,15 @@ std::int16_t rankOf(std::int16_t value) { return value == 0 ? kAceRank : value; 
 
 const char* letterOf(std::int16_t rank) { return kValueNames[rank % kAceRank]; }
 
+Hand handOf(const Cards& cards) {
+  Hand hand;
+  for (int i = 0; i < kHandSize; ++i) {
+    hand.value[i] = static_cast<std::int16_t>(cardValue(cards[i]));
+    hand.suit[i] = static_cast<std::int16_t>(cardSuit(cards[i]));
+  }
+  return hand;
+}
+
 /// The class of a hand by the pairs of positions that are alike in value: one for a pair, three among three
 /// cards, six among four.
 HandClass classOfGroups(int pairs) {
@@ -53,7 +62,8 @@ std::int16_t rankOfOddCard(const Hand& hand) {
 
 }  // namespace
 
-Classification classify(const Hand& hand) {
+Classification classify(const Cards& cards) {
+  const Hand hand = handOf(cards);
   const LikePairs pairs = countLikePairs(hand);
   Classification found;
   found.kind = classOfGroups(pairs.inValue);
@@ -88,12 +98,11 @@ std::string Classification::text() const {
   }
 }
 
-Part partOf(const Classification& hand, std::int16_t value) {
-  if (hand.kind == kStraight || hand.kind == kStraightFlush) {
-    return value == hand.cimapok ? Part::Top : Part::None;
-  }
-  if (rankOf(value) == hand.confrontopok[0]) return Part::FirstGroup;
-  return rankOf(value) == hand.confrontopok[1] ? Part::SecondGroup : Part::None;
+Role Classification::roleOf(int card) const {
+  const auto value = static_cast<std::int16_t>(cardValue(card));
+  if (isStraight()) return value == cimapok ? Role::Top : Role::None;
+  if (rankOf(value) == confrontopok[0]) return Role::FirstGroup;
+  return rankOf(value) == confrontopok[1] ? Role::SecondGroup : Role::None;
 }
 
 }  // namespace tombolario::poker

@@ -22,6 +22,12 @@ enum HandClass {
   kStraightFlush,
 };
 
+/// The numbers, 0 to 51, of the five cards of a hand.
+using Cards = OfHand<int>;
+
+/// What a card is to the class of its hand.
+enum class Role { None, FirstGroup, SecondGroup, Top };
+
 /// What a hand is, and what it is compared by with another of its class.
 struct Classification {
   HandClass kind = kNothing;
@@ -31,14 +37,13 @@ struct Classification {
   /// The value of the highest card of a straight: 0, the least of all, where it ends in the ace.
   std::int16_t cimapok = 0;
 
+  bool isStraight() const { return kind == kStraight || kind == kStraightFlush; }
   /// What the table tells of it, as "doppia coppia   A/K"; one blank for nothing.
   std::string text() const;
+  /// The role of a card of the hand, by its number; none where the hand is nothing.
+  Role roleOf(int card) const;
 };
 
-Classification classify(const Hand& hand);
-
-/// What a card is to the class of its hand, as the table shows it.
-enum class Part { None, FirstGroup, SecondGroup, Top };
-Part partOf(const Classification& hand, std::int16_t value);
+Classification classify(const Cards& cards);
 
 }  // namespace tombolario::poker

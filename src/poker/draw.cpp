@@ -2,31 +2,19 @@
 
 namespace tombolario::poker {
 
-namespace {
-
-// Trials go by the slot of the pack whose card is changed; the one before them is the hand as dealt.
-constexpr std::int16_t kAsDealt = 9;
-constexpr std::int16_t kFirstSlot = 10;
-
-}  // namespace
-
-Draw chooseDraw(const Hand& dealt, std::int16_t nextValue, std::int16_t nextSuit) {
-  Classification classecom;
-  std::int16_t sceltacom = kAsDealt;
-  for (std::int16_t provacom = kAsDealt; provacom < kFirstSlot + kHandSize; ++provacom) {
-    Hand trial = dealt;
-    if (provacom != kAsDealt) {
-      trial.value[provacom - kFirstSlot] = nextValue;
-      trial.suit[provacom - kFirstSlot] = nextSuit;
-    }
-    const Classification classeprova = classify(trial);
-    if (classeprova.kind > classecom.kind) {
-      classecom = classeprova;
-      sceltacom = provacom;
+std::optional<int> chooseDraw(const Cards& dealt, int next) {
+  HandClass best = classify(dealt).kind;
+  std::optional<int> changed;
+  for (int i = 0; i < kHandSize; ++i) {
+    Cards trial = dealt;
+    trial[i] = next;
+    const HandClass reached = classify(trial).kind;
+    if (reached > best) {
+      best = reached;
+      changed = i;
     }
   }
-  if (sceltacom == kAsDealt) return {classecom, std::nullopt};
-  return {classecom, sceltacom - kFirstSlot};
+  return changed;
 }
 
 }  // namespace tombolario::poker

@@ -8,40 +8,33 @@ constexpr int kDealt = 51;  // slots of the pack that a deal fills
 
 }  // namespace
 
-void Poker::begin() {
-  fillCardTables(valorepok, semepok);
-  playerScore_ = computerScore_ = 0;
-}
+void Poker::begin() { playerScore_ = computerScore_ = 0; }
 
 void Poker::avvioPOKER(UniformSource& uniform) {
   classehum = classecom = {};
   deal(uniform, mazzopok, 0, kDealt - 1, kPack);
-  for (int slot = 0; slot < kPack; ++slot) {
-    cartavalpok[slot] = valorepok[card(slot)];
-    cartasemepok[slot] = semepok[card(slot)];
-  }
 }
 
 OfHand<int> Poker::changePlayer(const Marks& marked) {
   const auto from = slotsAfterChange(marked);
-  for (int i = 0; i < kHandSize; ++i) copyCard(from[i], i);
-  classehum = classify(playerHand());
+  for (int i = 0; i < kHandSize; ++i) mazzopok[i] = mazzopok[from[i]];
+  classehum = classify(handAt(0));
   return from;
 }
 
-Draw Poker::changeComputer() {
-  const Draw draw = chooseDraw(computerHand(), cartavalpok[kNextCardSlot], cartasemepok[kNextCardSlot]);
-  if (draw.changed) copyCard(kNextCardSlot, kComputerSlot + *draw.changed);
-  classecom = draw.hand;
-  return draw;
+std::optional<int> Poker::changeComputer() {
+  const auto changed = chooseDraw(handAt(kComputerSlot), card(kNextCardSlot));
+  if (changed) mazzopok[kComputerSlot + *changed] = mazzopok[kNextCardSlot];
+  classecom = classify(handAt(kComputerSlot));
+  return changed;
 }
 
 Side Poker::award(Level level, Counting counting) {
   const Side side = winner(classehum, classecom, level);
   if (side == Side::Player)
-    playerScore_ = static_cast<std::int16_t>(playerScore_ + points(classehum, counting));
+    playerScore_ = static_cast<std::int16_t>(playerScore_ + points(classehum.kind, counting));
   if (side == Side::Computer) {
-    computerScore_ = static_cast<std::int16_t>(computerScore_ + points(classecom, counting));
+    computerScore_ = static_cast<std::int16_t>(computerScore_ + points(classecom.kind, counting));
   }
   return side;
 }
@@ -51,18 +44,10 @@ Side Poker::matchWinner(Counting counting) const {
   return computerScore_ > limit(counting) ? Side::Computer : Side::Nobody;
 }
 
-Hand Poker::handAt(int slot) const {
-  Hand hand;
-  for (int i = 0; i < kHandSize; ++i) {
-    hand.value[i] = cartavalpok[slot + i];
-    hand.suit[i] = cartasemepok[slot + i];
-  }
-  return hand;
-}
-
-void Poker::copyCard(int from, int to) {
-  cartavalpok[to] = cartavalpok[from];
-  cartasemepok[to] = cartasemepok[from];
+Cards Poker::handAt(int slot) const {
+  Cards cards{};
+  for (int i = 0; i < kHandSize; ++i) cards[i] = card(slot + i);
+  return cards;
 }
 
 }  // namespace tombolario::poker

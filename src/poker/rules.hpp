@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <optional>
 
 #include "pieces/cards.hpp"
 #include "pieces/chance.hpp"
@@ -27,31 +28,24 @@ class Poker {
   /// Changes the player's marked cards, from left to right, for the replacements in their order, and
   /// classifies the hand. Gives the slot that each position has its card from.
   OfHand<int> changePlayer(const Marks& marked);
-  /// Lets the computer draw.
-  Draw changeComputer();
+  /// Lets the computer draw. Gives the position whose card it changes, if any.
+  std::optional<int> changeComputer();
   /// Adds the hand to the score of the side that wins it.
   Side award(Level level, Counting counting);
   /// Who has won the match, if it is over.
   Side matchWinner(Counting counting) const;
 
-  /// The number of the card dealt to a slot, 0 to 15.
+  /// The number of the card in a slot, 0 to 15.
   int card(int slot) const { return mazzopok[slot]; }
-  Hand playerHand() const { return handAt(0); }
-  Hand computerHand() const { return handAt(kComputerSlot); }
   const Classification& player() const { return classehum; }
   const Classification& computer() const { return classecom; }
   int playerScore() const { return playerScore_; }
   int computerScore() const { return computerScore_; }
 
  private:
-  Hand handAt(int slot) const;
-  void copyCard(int from, int to);
+  Cards handAt(int slot) const;
 
-  Numbers<0, kPack - 1> valorepok{};
-  Numbers<0, kPack - 1> semepok{};
-  Numbers<0, kPack - 1> mazzopok{};      ///< card numbers in dealt order; the last is not dealt
-  Numbers<0, kPack - 1> cartavalpok{};   ///< values in dealt order
-  Numbers<0, kPack - 1> cartasemepok{};  ///< suits in dealt order
+  Numbers<0, kPack - 1> mazzopok{};  ///< card numbers in dealt order; the last is not dealt
   Classification classehum;
   Classification classecom;
   std::int16_t playerScore_ = 0;

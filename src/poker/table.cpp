@@ -107,25 +107,25 @@ void Table::changePlayer() {
     Frame11[i].BackColor = kAtRest;
   }
   humres.Caption = game_.player().text();
-  showParts(0, game_.playerHand(), game_.player());
+  showRoles(0, 0, game_.player());
 }
 
 void Table::changeComputer() {
-  const Draw draw = game_.changeComputer();
-  if (draw.changed) Pictt[kComputerSlot + *draw.changed].Picture = Pictt[kNextCardSlot].Picture;
-  showParts(kHandSize, game_.computerHand(), game_.computer());
+  const auto changed = game_.changeComputer();
+  if (changed) Pictt[kComputerSlot + *changed].Picture = Pictt[kNextCardSlot].Picture;
+  showRoles(kHandSize, kComputerSlot, game_.computer());
   comres.Caption = game_.computer().text();
 }
 
 /// Colours the frames of the cards that make the class of a hand.
-void Table::showParts(int firstFrame, const Hand& hand, const Classification& found) {
+void Table::showRoles(int firstFrame, int firstSlot, const Classification& found) {
   for (int i = 0; i < kHandSize; ++i) {
     Frame& frame = Frame11[firstFrame + i];
-    switch (partOf(found, hand.value[i])) {
-      case Part::None: break;
-      case Part::FirstGroup: frame.BackColor = kFirstGroup; break;
-      case Part::SecondGroup: frame.BackColor = kSecondGroup; break;
-      case Part::Top: frame.BackColor = kTop; break;
+    switch (found.roleOf(game_.card(firstSlot + i))) {
+      case Role::None: break;
+      case Role::FirstGroup: frame.BackColor = kFirstGroup; break;
+      case Role::SecondGroup: frame.BackColor = kSecondGroup; break;
+      case Role::Top: frame.BackColor = kTop; break;
     }
   }
 }

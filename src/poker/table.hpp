@@ -79,7 +79,7 @@ class Table : public Game {
   void begin();
   void changePlayer();
   void changeComputer();
-  void showParts(int firstFrame, const Hand& hand, const Classification& found);
+  void showRoles(int firstFrame, int firstSlot, const Classification& found);
   void award();
   void endMatch();
 
