@@ -1,47 +1,76 @@
 #include "poker/rules.hpp"
 
+#include <algorithm>
+
+#include "pieces/number.hpp"
+#include "poker/draw.hpp"
+
 namespace tombolario::poker {
 
 namespace {
 
-constexpr int kDealt = 51;  // slots of the pack that a deal fills
+constexpr int kSlotsDealt = 51;
 
 }  // namespace
 
-void Poker::begin() { playerScore_ = computerScore_ = 0; }
+void Poker::newMatch(UniformSource& uniform) {
+  clearScore();
+  avvioPOKER(uniform);
+}
 
+void Poker::newHand(UniformSource& uniform) {
+  if (!mayDeal_) return;
+  mayDeal_ = false;
+  avvioPOKER(uniform);
+}
+
+void Poker::leave(UniformSource& uniform) {
+  if (phase_ == Phase::NoMatch) return;
+  mayDeal_ = false;
+  clearScore();
+  avvioPOKER(uniform);
+  phase_ = Phase::NoMatch;
+}
+
+void Poker::mark(int position) {
+  if (phase_ == Phase::Dealt) marked_[position] = !marked_[position];
+}
+
+void Poker::showDown(Level level, Counting counting) {
+  if (phase_ != Phase::Dealt) return;
+  changePlayer();
+  changeComputer();
+  award(level, counting);
+  mayDeal_ = std::max(playerScore_, computerScore_) <= limit(counting);
+  phase_ = mayDeal_ ? Phase::Scored : Phase::MatchOver;
+}
+
+/// Shuffles and deals both hands; what the last hand was is forgotten.
 void Poker::avvioPOKER(UniformSource& uniform) {
+  marked_ = {};
   classehum = classecom = {};
-  deal(uniform, mazzopok, 0, kDealt - 1, kPack);
+  handWinner_ = Side::Nobody;
+  deal(uniform, mazzopok, 0, kSlotsDealt - 1, kPack);
+  phase_ = Phase::Dealt;
 }
 
-OfHand<int> Poker::changePlayer(const Marks& marked) {
-  const auto from = slotsAfterChange(marked);
+void Poker::changePlayer() {
+  const auto from = slotsAfterChange(marked_);
   for (int i = 0; i < kHandSize; ++i) mazzopok[i] = mazzopok[from[i]];
+  marked_ = {};
   classehum = classify(handAt(0));
-  return from;
 }
 
-std::optional<int> Poker::changeComputer() {
+void Poker::changeComputer() {
   const auto changed = chooseDraw(handAt(kComputerSlot), card(kNextCardSlot));
   if (changed) mazzopok[kComputerSlot + *changed] = mazzopok[kNextCardSlot];
   classecom = classify(handAt(kComputerSlot));
-  return changed;
 }
 
-Side Poker::award(Level level, Counting counting) {
-  const Side side = winner(classehum, classecom, level);
-  if (side == Side::Player)
-    playerScore_ = static_cast<std::int16_t>(playerScore_ + points(classehum.kind, counting));
-  if (side == Side::Computer) {
-    computerScore_ = static_cast<std::int16_t>(computerScore_ + points(classecom.kind, counting));
-  }
-  return side;
-}
-
-Side Poker::matchWinner(Counting counting) const {
-  if (playerScore_ > limit(counting)) return Side::Player;
-  return computerScore_ > limit(counting) ? Side::Computer : Side::Nobody;
+void Poker::award(Level level, Counting counting) {
+  handWinner_ = winner(classehum, classecom, level);
+  if (handWinner_ == Side::Player) add(playerScore_, points(classehum.kind, counting));
+  if (handWinner_ == Side::Computer) add(computerScore_, points(classecom.kind, counting));
 }
 
 Cards Poker::handAt(int slot) const {
