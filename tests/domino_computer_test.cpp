@@ -1,4 +1,4 @@
-#include "domino/computer.hpp"
+#include "domino/rules.hpp"
 
 #include <gtest/gtest.h>
 
@@ -23,35 +23,24 @@ TEST(DominoSet, HasEveryTileBothWaysRound) {
   }
 }
 
-/// A position as the computer sees it, with all its slots filled and some of them laid.
+/// A position as the computer sees it.
 View viewOf(const std::map<int, Pair>& hand, int sx, int dx, const std::array<int, 7>& held) {
-  View view{};
-  for (int slot = kFirstOfComputer; slot <= kLastOfComputer; ++slot) {
-    const auto tile = hand.find(slot);
-    view.laid[slot] = tile == hand.end();
-    if (tile != hand.end()) {
-      view.hand[slot] = {static_cast<std::int16_t>(tile->second.first),
-                         static_cast<std::int16_t>(tile->second.second)};
-    } else {
-      view.hand[slot] = {static_cast<std::int16_t>(sx), static_cast<std::int16_t>(dx)};
-    }
-  }
-  view.open = {static_cast<std::int16_t>(sx), static_cast<std::int16_t>(dx)};
-  for (int n = 0; n < 7; ++n) {
-    view.held[n] = static_cast<std::int16_t>(held.at(static_cast<std::size_t>(n)));
-  }
+  const auto number = [](int n) { return static_cast<std::int16_t>(n); };
+  View view{{}, {number(sx), number(dx)}, {}};
+  for (const auto& [slot, tile] : hand) view.hand[slot] = Tile{number(tile.first), number(tile.second)};
+  for (int n = 0; n < 7; ++n) view.held[n] = number(held.at(static_cast<std::size_t>(n)));
   return view;
 }
 
 void expectChoice(const std::map<int, Pair>& hand, int sx, int dx, const std::array<int, 7>& held,
                   bool expert) {
-  const Choice found = choose(viewOf(hand, sx, dx, held), expert ? Level::Expert : Level::Beginner);
+  const auto found = choose(viewOf(hand, sx, dx, held), expert ? Level::Expert : Level::Beginner);
   const auto plain = reckoning::choice(hand, sx, dx, held, expert);
-  ASSERT_EQ(found.mossadom != Placement::None, plain.has_value());
+  ASSERT_EQ(found.has_value(), plain.has_value());
   if (!plain) return;
-  ASSERT_EQ(found.sceltadom, plain->slot);
-  ASSERT_EQ(isLeft(found.mossadom), plain->left);
-  ASSERT_EQ(isReversed(found.mossadom), plain->reversed);
+  ASSERT_EQ(found->sceltadom, plain->slot);
+  ASSERT_EQ(found->mossadom.end == End::Left, plain->left);
+  ASSERT_EQ(found->mossadom.reversed, plain->reversed);
 }
 
 TEST(DominoComputer, AgreesWithThePlainDescription) {
@@ -83,16 +72,63 @@ TEST(DominoComputer, AgreesWithThePlainDescription) {
 TEST(DominoComputer, ChoosesByItsLevel) {
   const std::map<int, Pair> hand{{15, {2, 3}}, {16, {3, 4}}, {17, {1, 5}}};
   const View view = viewOf(hand, 3, 5, {2, 0, 3, 1, 0, 4, 2});
-  const Choice beginner = choose(view, Level::Beginner);
+  const Choice beginner = choose(view, Level::Beginner).value();
   EXPECT_EQ(beginner.sceltadom, 15);
-  EXPECT_EQ(beginner.mossadom, Placement::Left);
-  const Choice expert = choose(view, Level::Expert);
+  EXPECT_TRUE(beginner.mossadom.end == End::Left && !beginner.mossadom.reversed);
+  const Choice expert = choose(view, Level::Expert).value();
   EXPECT_EQ(expert.sceltadom, 17);
-  EXPECT_EQ(expert.mossadom, Placement::RightReversed);
+  EXPECT_TRUE(expert.mossadom.end == End::Right && expert.mossadom.reversed);
   // The number that is open already, by a double; seven in the player's hand.
-  EXPECT_EQ(choose(viewOf({{20, {4, 4}}}, 4, 4, {7, 0, 0, 0, 6, 0, 0}), Level::Expert).mossadom,
-            Placement::Right);
-  EXPECT_EQ(choose(viewOf({{20, {4, 4}}}, 1, 2, {}), Level::Expert).mossadom, Placement::None);
+  EXPECT_TRUE(choose(viewOf({{20, {4, 4}}}, 4, 4, {7, 0, 0, 0, 6, 0, 0}), Level::Expert).has_value());
+  EXPECT_FALSE(choose(viewOf({{20, {4, 4}}}, 1, 2, {}), Level::Expert).has_value());
+}
+
+class AnyChance : public UniformSource {
+ public:
+  void seedFromClock() override {}
+  double next() override { return std::uniform_real_distribution<>()(engine_); }
+
+ private:
+  std::mt19937 engine_{28};
+};
+
+/// All that operations change.
+auto stateOf(const Domino& game) {
+  std::vector<int> tiles;
+  for (int slot = kFirstOfPlayer; slot <= kLastOfComputer; ++slot)
+    tiles.push_back(game.inHand(slot) ? -1 : game.shown(slot));
+  const auto [player, computer] = game.score(Counting::ByTile);
+  return std::tuple(game.phase(), game.signal(), game.primodom(), game.ultimodom(), player, computer, tiles);
+}
+
+TEST(DominoRules, RefuseInEachPhaseWhatBelongsToOthers) {
+  AnyChance chance;
+  Domino game;
+  std::map<Phase, int> seen;
+  const auto layAll = [&](int first, int last) {
+    for (int slot = first; slot <= last; ++slot) {
+      for (const End end : {End::Left, End::Right}) game.lay(slot, end);
+    }
+  };
+  for (int step = 0; step < 5000; ++step) {
+    const Phase phase = game.phase();
+    const auto before = stateOf(game);
+    ++seen[phase];
+    layAll(phase == Phase::PlayerToLay ? kFirstOfComputer : kFirstOfPlayer, kLastOfComputer);
+    if (phase != Phase::PlayerStuck) game.pass();
+    if (phase != Phase::ComputerToMove) game.computerTurn(Level::Expert);
+    if (phase != Phase::GameOver) game.next(Counting::ByTile, chance);
+    if (phase > Phase::PlayerStuck || game.primodom() != game.ultimodom()) game.begin();
+    ASSERT_EQ(stateOf(game), before);
+    switch (phase) {
+      case Phase::PlayerToLay: layAll(kFirstOfPlayer, kLastOfPlayer); break;
+      case Phase::PlayerStuck: game.pass(); break;
+      case Phase::ComputerToMove: game.computerTurn(Level::Beginner); break;
+      case Phase::GameOver: game.next(Counting::ByTile, chance); break;
+      case Phase::MatchOver: game.inizioDOMINO(chance); game.begin();
+    }
+  }
+  EXPECT_EQ(seen.size(), 5U);
 }
 
 }  // namespace

@@ -21,19 +21,19 @@ std::vector<std::int16_t> byCount(const Numbers<0, kNumbers - 1>& held) {
 
 }  // namespace
 
-Choice choose(const View& view, Level level) {
-  constexpr std::array kTried{Placement::Right, Placement::Left, Placement::RightReversed,
-                              Placement::LeftReversed};
+std::optional<Choice> choose(const View& view, Level level) {
+  constexpr std::array<Placement, 4> kTried{
+      {{End::Right, false}, {End::Left, false}, {End::Right, true}, {End::Left, true}}};
   for (const std::int16_t wanted : byCount(view.held)) {
     for (int slot = kFirstOfComputer; slot <= kLastOfComputer; ++slot) {
-      if (view.laid[slot]) continue;
-      for (const Placement placement : kTried) {
-        const auto left = leavesOpen(placement, view.hand[slot], view.open);
-        if (left && (level == Level::Beginner || left == wanted)) return {placement, slot};
+      if (!view.hand[slot]) continue;
+      for (const Placement& placement : kTried) {
+        const auto left = placement.leavesOpen(*view.hand[slot], view.open);
+        if (left && (level == Level::Beginner || left == wanted)) return Choice{placement, slot};
       }
     }
   }
-  return {};
+  return std::nullopt;
 }
 
 }  // namespace tombolario::domino

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <optional>
+
 #include "domino/line.hpp"
 
 namespace tombolario::domino {
@@ -15,21 +17,21 @@ enum class Level { Beginner, Expert };
 
 /// What the computer sees of a game.
 struct View {
-  Slots<Tile, kFirstOfComputer, kLastOfComputer> hand;
-  Slots<bool, kFirstOfComputer, kLastOfComputer> laid;  ///< those of its tiles that are on the line
+  Slots<std::optional<Tile>, kFirstOfComputer, kLastOfComputer>
+      hand;  ///< nothing where the tile has been laid
   OpenEnds open;
   Numbers<0, kNumbers - 1> held;  ///< how many of the player's tiles bear each number
 };
 
-/// A tile of the computer and how to lay it; no placement if none fits.
+/// A tile of the computer and how to lay it.
 struct Choice {
-  Placement mossadom = Placement::None;
+  Placement mossadom;
   int sceltadom = 0;  ///< the slot, 15 to 27
 };
 
-/// The computer's choice. The expert prefers to leave open the number that the player holds least, the
-/// lower of two that are held alike; then the lowest slot counts, then right before left, and as it lies
-/// before reversed.
-Choice choose(const View& view, Level level);
+/// The computer's choice; nothing if no tile fits. The expert prefers to leave open the number that the
+/// player holds least, the lower of two that are held alike; then the lowest slot counts, then right before
+/// left, and as it lies before reversed.
+std::optional<Choice> choose(const View& view, Level level);
 
 }  // namespace tombolario::domino

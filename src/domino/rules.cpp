@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include "pieces/number.hpp"
+
 namespace tombolario::domino {
 
 namespace {
@@ -11,145 +13,127 @@ constexpr int kTilesToWin = 30;
 
 }  // namespace
 
-void Domino::begin() { s_.partumdom = s_.partcomdom = s_.pedumdom = s_.pedcomdom = 0; }
-
 void Domino::inizioDOMINO(UniformSource& uniform) {
-  s_.lesx = s_.ledx = Signal::Nothing;
-  s_.primodom = s_.ultimodom = kOpeningBox;
-  std::fill(s_.inHand.begin(), s_.inHand.end(), true);
-  std::fill(s_.usatacomdom.begin(), s_.usatacomdom.end(), false);
-  s_.posateumdom = 0;
-  s_.posatecomdom = 1;
-  s_.computerToMove = false;
-  s_.result = Result::None;
-  deal(uniform, s_.mischiadom, 0, kTiles - 1, kTiles);
-  for (int slot = 0; slot < kTiles; ++slot) {
-    s_.numdom[slot] = kFaceNumbers[s_.mischiadom[slot]];
-    s_.numdom[slot + kTiles] = kFaceNumbers[s_.mischiadom[slot] + kTiles];
-  }
-  s_.open = {s_.numdom[0].first, s_.numdom[0].second};
-  s_.puodom = playerFits();
-  s_.playerToLay = s_.puodom;
-  s_.playerToPass = !s_.puodom;
+  deal(uniform, mischiadom_, 0, kTiles - 1, kTiles);
+  std::fill(inHand_.begin(), inHand_.end(), true);
+  std::fill(reversed_.begin(), reversed_.end(), false);
+  line_ = {0};
+  primodom_ = kOpeningBox;
+  signal_ = Signal::Nothing;
+  phase_ = playerFits() ? Phase::PlayerToLay : Phase::PlayerStuck;
 }
 
-std::optional<int> Domino::lay(int slot, Placement asItLies, Placement reversed) {
-  if (s_.computerToMove || s_.result != Result::None || !s_.inHand[slot]) return std::nullopt;
-  const Placement placement = leavesOpen(asItLies, s_.numdom[slot], s_.open) ? asItLies : reversed;
-  if (!leavesOpen(placement, s_.numdom[slot], s_.open)) return std::nullopt;
-  const int face = place(slot, placement);
-  s_.inHand[slot] = false;
-  s_.computerToMove = true;
-  s_.playerToLay = false;
-  if (++s_.posateumdom == kHand) end(Result::Won, kHand - s_.posatecomdom);
-  calcoloDOMINO();
-  return face;
+void Domino::begin() {
+  if ((phase_ != Phase::PlayerToLay && phase_ != Phase::PlayerStuck) || line_.size() > 1) return;
+  gamesWon_ = tilesWonBy_ = {};
+}
+
+void Domino::lay(int slot, End end) {
+  if (phase_ != Phase::PlayerToLay || slot > kLastOfPlayer || !inHand(slot)) return;
+  for (const bool reversed : {false, true}) {
+    const Placement placement{end, reversed};
+    if (!placement.leavesOpen(tile(slot), open())) continue;
+    place(slot, placement);
+    phase_ = Phase::ComputerToMove;
+    if (tilesLeft(Side::Player) == 0) settle();
+    return;
+  }
 }
 
 void Domino::pass() {
-  s_.computerToMove = true;
-  s_.playerToPass = false;
+  if (phase_ == Phase::PlayerStuck) phase_ = Phase::ComputerToMove;
 }
 
-std::optional<Domino::Laid> Domino::computerTurn(Level level) {
-  s_.computerToMove = false;
-  View view{{}, s_.usatacomdom, s_.open, {}};
-  for (int slot = kFirstOfComputer; slot <= kLastOfComputer; ++slot) view.hand[slot] = s_.numdom[slot];
-  for (int number = 0; number < kNumbers; ++number) view.held[number] = s_.contadom[number];
-  const auto [mossadom, sceltadom] = choose(view, level);
-
-  std::optional<Laid> laid;
-  if (mossadom != Placement::None) {
-    s_.usatacomdom[sceltadom] = true;
-    ++s_.posatecomdom;
-    laid = {place(sceltadom, mossadom), isLeft(mossadom)};
+void Domino::computerTurn(Level level) {
+  if (phase_ != Phase::ComputerToMove) return;
+  View view{{}, open(), contadom(Side::Player)};
+  for (const int slot : hand(Side::Computer)) view.hand[slot] = tile(slot);
+  const auto choice = choose(view, level);
+  // No tile of the player's fitted after the computer's last turn, so the player has just passed: then nobody
+  // can move. It is not told of at the deal.
+  const bool blocked = !choice && signal_ == Signal::NoTileFits;
+  if (choice) {
+    place(choice->sceltadom, choice->mossadom);
   } else {
-    // Orange at the left tells that the player has just passed: then nobody can move.
-    if (s_.lesx == Signal::PlayerStuck) settleBlock();
-    s_.lesx = s_.ledx = Signal::ComputerPassed;
+    signal_ = Signal::ComputerPassed;
   }
-  s_.playerToLay = true;
-  if (s_.posatecomdom == kHand) {
-    s_.playerToLay = false;
-    end(Result::Lost, kHand - s_.posateumdom);
+  phase_ = Phase::PlayerToLay;
+  if (!playerFits()) {
+    signal_ = Signal::NoTileFits;
+    phase_ = Phase::PlayerStuck;
   }
-  calcoloDOMINO();
-
-  s_.puodom = playerFits();
-  s_.playerToPass = !s_.puodom && s_.result == Result::None;
-  if (!s_.puodom) {
-    s_.playerToLay = false;
-    s_.lesx = s_.ledx = Signal::PlayerStuck;
-  }
-  return laid;
+  if (blocked || tilesLeft(Side::Computer) == 0) settle();
 }
 
-void Domino::calcoloDOMINO() {
-  for (int number = 0; number < kNumbers; ++number) {
-    const auto bears = [&](int slot) { return s_.numdom[slot].bears(number); };
-    std::int16_t& player = s_.contadom[number] = 0;
-    std::int16_t& computer = s_.contadom[number + kNumbers] = 0;
-    for (int slot = kFirstOfPlayer; slot <= kLastOfPlayer; ++slot) {
-      if (s_.inHand[slot] && bears(slot)) ++player;
-    }
-    for (int slot = kFirstOfComputer; slot <= kLastOfComputer; ++slot) {
-      if (!s_.usatacomdom[slot] && bears(slot)) ++computer;
+void Domino::next(Counting counting, UniformSource& uniform) {
+  if (phase_ != Phase::GameOver) return;
+  const auto [player, computer] = score(counting);
+  if (std::max(player, computer) < (counting == Counting::ByGame ? kGamesToWin : kTilesToWin)) {
+    inizioDOMINO(uniform);
+  } else {
+    phase_ = Phase::MatchOver;
+  }
+}
+
+int Domino::dealt(int slot) const {
+  return slot < kTiles ? mischiadom_[slot] : mischiadom_[slot - kTiles] + kTiles;
+}
+
+Numbers<0, kNumbers - 1> Domino::contadom(Side side) const {
+  Numbers<0, kNumbers - 1> counts{};
+  for (const int slot : hand(side)) {
+    for (int number = 0; number < kNumbers; ++number) {
+      if (tile(slot).bears(number)) ++counts[number];
     }
   }
+  return counts;
 }
 
-bool Domino::matchOver(Counting counting) const {
-  if (counting == Counting::ByGame) return s_.partumdom == kGamesToWin || s_.partcomdom == kGamesToWin;
-  return s_.pedumdom >= kTilesToWin || s_.pedcomdom >= kTilesToWin;
-}
-
-/// Puts a tile of either side on the line. Gives the slot of the face as it lies.
-int Domino::place(int slot, Placement placement) {
-  const std::int16_t open = *leavesOpen(placement, s_.numdom[slot], s_.open);
-  if (isLeft(placement)) {
-    s_.open.sxdom = open;
-    --s_.primodom;
-  } else {
-    s_.open.dxdom = open;
-    ++s_.ultimodom;
+/// The slots of the tiles that a side still holds, in their order.
+std::vector<int> Domino::hand(Side side) const {
+  std::vector<int> held;
+  for (int slot = kFirstOfPlayer; slot <= kLastOfComputer; ++slot) {
+    const Side owner = slot <= kLastOfPlayer ? Side::Player : Side::Computer;
+    if (inHand(slot) && owner == side) held.push_back(slot);
   }
-  s_.lesx = isLeft(placement) ? Signal::LastMove : Signal::Nothing;
-  s_.ledx = isLeft(placement) ? Signal::Nothing : Signal::LastMove;
-  return isReversed(placement) ? slot + kTiles : slot;
-}
-
-/// Who has laid more tiles wins a game in which nobody can move.
-void Domino::settleBlock() {
-  const int ahead = s_.posateumdom - s_.posatecomdom;
-  if (ahead > 0) {
-    end(Result::Won, ahead);
-  } else if (ahead < 0) {
-    end(Result::Lost, -ahead);
-  } else {
-    end(Result::Drawn, 0);
-  }
-}
-
-/// A game that is over, by so many tiles.
-void Domino::end(Result result, int tiles) {
-  s_.result = result;
-  s_.computerToMove = s_.playerToPass = false;
-  const auto add = [](std::int16_t& tally, int more) { tally = static_cast<std::int16_t>(tally + more); };
-  if (result == Result::Won) {
-    add(s_.partumdom, 1);
-    add(s_.pedumdom, tiles);
-  }
-  if (result == Result::Lost) {
-    add(s_.partcomdom, 1);
-    add(s_.pedcomdom, tiles);
-  }
+  return held;
 }
 
 bool Domino::playerFits() const {
-  for (int slot = kFirstOfPlayer; slot <= kLastOfPlayer; ++slot) {
-    if (s_.inHand[slot] && fits(s_.numdom[slot], s_.open)) return true;
+  const auto held = hand(Side::Player);
+  return std::any_of(held.begin(), held.end(), [this](int slot) { return open().accept(tile(slot)); });
+}
+
+/// Puts a tile of either side on the line.
+void Domino::place(int slot, const Placement& placement) {
+  inHand_[slot] = false;
+  reversed_[slot] = placement.reversed;
+  if (placement.end == End::Left) {
+    line_.push_front(slot);
+    --primodom_;
+    signal_ = Signal::LaidLeft;
+  } else {
+    line_.push_back(slot);
+    signal_ = Signal::LaidRight;
   }
-  return false;
+}
+
+/// The game is over: who holds fewer tiles wins it by the difference, whether one has laid the last or nobody
+/// can move.
+void Domino::settle() {
+  phase_ = Phase::GameOver;
+  result_ = Result::Drawn;
+  const int ahead = tilesLeft(Side::Computer) - tilesLeft(Side::Player);
+  if (ahead > 0) {
+    result_ = Result::Won;
+    add(gamesWon_.player, 1);
+    add(tilesWonBy_.player, ahead);
+  }
+  if (ahead < 0) {
+    result_ = Result::Lost;
+    add(gamesWon_.computer, 1);
+    add(tilesWonBy_.computer, -ahead);
+  }
 }
 
 }  // namespace tombolario::domino
