@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "pieces/number.hpp"
 #include "ramino/tris.hpp"
 
 namespace tombolario::ramino {
@@ -10,88 +11,93 @@ namespace tombolario::ramino {
 namespace {
 
 constexpr int kDealt = 51;  // positions of the pack that a deal fills
+constexpr int kHandsToWin = 9;
 constexpr int kTriple = 3;
-
-constexpr int firstOfTriple(int card) { return card - card % kTriple; }
+constexpr int kToWin = 3 * kTriple;  // cards in `tris`
 
 }  // namespace
 
-void Ramino::begin() { s_.vintiUmanoRam = s_.vintiCompRam = 0; }
-
-void Ramino::avvioRAM(UniformSource& uniform) {
-  s_.phase = Phase::ToDraw;
-  s_.result = Result::None;
-  s_.nScartiRam = 0;
-  s_.selRam = 0;
-  s_.cimaRam = kStockFirst;
-  s_.marking = {};
-  deal(uniform, s_.mazzoRam, 0, kDealt - 1, kPack);
+void Ramino::newMatch(UniformSource& uniform) {
+  vintiUmanoRam = vintiCompRam = 0;
+  avvioRAM(uniform);
 }
 
-void Ramino::freeFrames() {
-  s_.selRam = 0;
-  std::fill(s_.frames.begin(), s_.frames.end(), FrameState::Free);
+void Ramino::nextHand(UniformSource& uniform) {
+  if (goesOn()) avvioRAM(uniform);
+}
+
+void Ramino::avvioRAM(UniformSource& uniform) {
+  phase_ = Phase::ToDraw;
+  inPlayFrom_ = Pile::None;
+  tableCardShown_ = false;
+  nScartiRam = 0;
+  cimaRam = kStockFirst;
+  marking_ = {};
+  frames_ = {};
+  deal(uniform, mazzoRam, 0, kDealt - 1, kPack);
 }
 
 void Ramino::drawFromStock() {
-  list(s_.mazzoRam[kTable]);
-  s_.mazzoRam[kInPlay] = s_.mazzoRam[s_.cimaRam];
-  ++s_.cimaRam;
-  takeInHand();
-  if (s_.cimaRam == kStockEnd) end(Result::Drawn);
+  if (phase_ != Phase::ToDraw) return;
+  list(mazzoRam[kTable]);
+  mazzoRam[kInPlay] = mazzoRam[cimaRam];
+  add(cimaRam, 1);
+  takeInHand(Pile::Stock);
+  if (cimaRam == kStockEnd) end(Phase::StockOut);
 }
 
 void Ramino::takeFromTable() {
-  s_.mazzoRam[kInPlay] = s_.mazzoRam[kTable];
-  takeInHand();
+  if (phase_ != Phase::ToDraw) return;
+  mazzoRam[kInPlay] = mazzoRam[kTable];
+  takeInHand(Pile::Table);
 }
 
 /// A card is in play: it goes to a place by one press, so nothing stays selected.
-void Ramino::takeInHand() {
-  s_.phase = Phase::InPlay;
-  s_.selRam = 0;
-  for (FrameState& frame : s_.frames) {
-    if (frame == FrameState::Selected) frame = FrameState::Free;
-  }
+void Ramino::takeInHand(Pile from) {
+  phase_ = Phase::InPlay;
+  inPlayFrom_ = from;
+  std::replace(frames_.begin(), frames_.end(), FrameState::Selected, FrameState::Free);
 }
 
 void Ramino::leave() {
-  s_.mazzoRam[kTable] = s_.mazzoRam[kInPlay];
-  s_.phase = Phase::Placed;
+  if (phase_ != Phase::InPlay) return;
+  mazzoRam[kTable] = mazzoRam[kInPlay];
+  phase_ = Phase::Placed;
+  inPlayFrom_ = Pile::None;
 }
 
 void Ramino::press(int card) {
-  FrameState& frame = s_.frames[card];
-  if (frame == FrameState::Selected) {
+  if (isOver()) return;
+  FrameState& frame = frames_[card];
+  if (phase_ == Phase::InPlay) {
+    unlock(card);
+    std::swap(mazzoRam[card], mazzoRam[kInPlay]);
+    leave();
+  } else if (frame == FrameState::Selected) {
     frame = FrameState::Free;
-    --s_.selRam;
-  } else if (s_.selRam < kTriple) {
-    // A `tris` is unlocked whole.
-    if (frame == FrameState::Locked) {
-      const int first = firstOfTriple(card);
-      for (int k = first; k < first + kTriple; ++k) s_.frames[k] = FrameState::Free;
-    }
+  } else if (selRam() < kTriple) {
+    unlock(card);
     frame = FrameState::Selected;
-    ++s_.selRam;
+    if (selRam() == kTriple && selectedAreTris()) lockTris();
   }
-  if (s_.phase == Phase::InPlay) exchange(card);
-  if (s_.selRam == kTriple && selectedAreTris()) lockTris();
 }
 
-/// The card in play takes the place of the pressed one, which goes to the table.
-void Ramino::exchange(int card) {
-  s_.mazzoRam[kTable] = s_.mazzoRam[card];
-  s_.mazzoRam[card] = s_.mazzoRam[kInPlay];
-  s_.frames[card] = FrameState::Free;
-  s_.selRam = 0;
-  s_.phase = Phase::Placed;
+/// A `tris` is unlocked whole.
+void Ramino::unlock(int card) {
+  if (frames_[card] != FrameState::Locked) return;
+  const int first = card - card % kTriple;
+  for (int k = first; k < first + kTriple; ++k) frames_[k] = FrameState::Free;
+}
+
+int Ramino::selRam() const {
+  return static_cast<int>(std::count(frames_.begin(), frames_.end(), FrameState::Selected));
 }
 
 bool Ramino::selectedAreTris() const {
   Numbers<0, kTriple - 1> chosen{};
   int count = 0;
   for (int k = 0; k < kPlayerCards; ++k) {
-    if (s_.frames[k] == FrameState::Selected) chosen[count++] = s_.mazzoRam[k];
+    if (frames_[k] == FrameState::Selected) chosen[count++] = mazzoRam[k];
   }
   const auto [a, b, c] = chosen.items;
   return isSet(a, b, c) || isRun(a, b, c) || isHighRun(a, b, c);
@@ -99,103 +105,107 @@ bool Ramino::selectedAreTris() const {
 
 /// The selected cards move into the first triple that is not locked; what stood there takes their places.
 void Ramino::lockTris() {
-  s_.selRam = 0;
   int posTrisRam = 0;
-  while (posTrisRam < 2 * kTriple && s_.frames[posTrisRam] == FrameState::Locked) posTrisRam += kTriple;
+  while (posTrisRam < 2 * kTriple && frames_[posTrisRam] == FrameState::Locked) posTrisRam += kTriple;
   for (int k = 0; k < kPlayerCards; ++k) {
-    if (s_.frames[k] != FrameState::Selected) continue;
-    std::swap(s_.mazzoRam[posTrisRam], s_.mazzoRam[k]);
-    s_.frames[posTrisRam++] = FrameState::Locked;
-    if (s_.frames[k] != FrameState::Locked) s_.frames[k] = FrameState::Free;
+    if (frames_[k] != FrameState::Selected) continue;
+    std::swap(mazzoRam[posTrisRam], mazzoRam[k]);
+    frames_[posTrisRam++] = FrameState::Locked;
+    if (frames_[k] != FrameState::Locked) frames_[k] = FrameState::Free;
   }
-  const auto gialliRam = std::count(s_.frames.begin(), s_.frames.end(), FrameState::Locked);
-  if (gialliRam == kPlayerCards) end(Result::Won);
+  const auto gialliRam = std::count(frames_.begin(), frames_.end(), FrameState::Locked);
+  if (gialliRam == kToWin) end(Phase::Won);
 }
 
 void Ramino::swapSelected() {
-  const auto first = std::find(s_.frames.begin(), s_.frames.end(), FrameState::Selected);
-  const auto second = std::find(first + 1, s_.frames.end(), FrameState::Selected);
-  std::swap(s_.mazzoRam[static_cast<int>(first - s_.frames.begin())],
-            s_.mazzoRam[static_cast<int>(second - s_.frames.begin())]);
-  *first = *second = FrameState::Free;
-  s_.selRam = 0;
+  if (selRam() != 2) return;
+  int first = 0;
+  while (frames_[first] != FrameState::Selected) ++first;
+  int second = first + 1;
+  while (frames_[second] != FrameState::Selected) ++second;
+  std::swap(mazzoRam[first], mazzoRam[second]);
+  frames_[first] = frames_[second] = FrameState::Free;
 }
 
-bool Ramino::computerTurn(Level level) {
-  s_.phase = Phase::ToDraw;
-  if (level == Level::Expert) {
-    clearPairs(s_.marking);
-    consider(kTable);
-    analyse();
-    const bool takes = s_.marking.segnoRam[kConsidered] == Mark::Tris;
-    if (takes) fitIn();
-    if (countInTris(s_.marking) == 3 * kTriple) end(Result::Lost);
-    if (takes || s_.result == Result::Lost) return takes;
+void Ramino::computerTurn(Level level) {
+  if (phase_ != Phase::Placed) return;
+  phase_ = Phase::ToDraw;
+  tableCardShown_ = level == Level::Expert && lookAtTable();
+  if (!tableCardShown_ && countInTris(marking_) != kToWin) playFromStock();
+  if (countInTris(marking_) == kToWin) {
+    end(Phase::Lost);
+  } else if (cimaRam == kStockEnd) {
+    end(Phase::StockOut);
   }
-  clearPairs(s_.marking);
-  consider(s_.cimaRam);
-  analyse();
-  const std::int16_t covered = s_.mazzoRam[kTable];
-  if (place()) {
-    ++s_.cimaRam;
-    list(covered);
-  }
-  const int inTris = countInTris(s_.marking);
-  if (inTris == 3 * kTriple) {
-    end(Result::Lost);
-  } else if (inTris < 3 * kTriple && s_.cimaRam == kStockEnd) {
-    end(Result::Drawn);
-  }
-  return false;
 }
 
-/// A table card is covered by one from the stock.
-void Ramino::list(std::int16_t card) { s_.scarti[s_.nScartiRam++] = card; }
+/// The expert's first look. True if the table card completes a `tris`, and then that is the turn: the card
+/// goes to the hand, unless four `tris` leave no place for it there.
+bool Ramino::lookAtTable() {
+  consider(kTable);
+  if (marking_.segnoRam[kConsidered] != Mark::Tris) return false;
+  fitIn();
+  return true;
+}
 
-/// Looks at the card of a position, which inherits the mark of the one that was looked at before.
-void Ramino::consider(int position) { s_.mazzoRam[kConsidered] = s_.mazzoRam[position]; }
+/// The next card of the stock is kept or thrown. Four `tris` leave no card to throw: it stays on the stock.
+void Ramino::playFromStock() {
+  const std::int16_t covered = mazzoRam[kTable];
+  consider(cimaRam);
+  if (!place()) return;
+  add(cimaRam, 1);
+  list(covered);
+}
 
-void Ramino::analyse() {
+/// Looks at the hand with the card of a position, which inherits the mark of the one that was looked at
+/// before.
+void Ramino::consider(int position) {
+  mazzoRam[kConsidered] = mazzoRam[position];
   ComputerCards cards{};
-  for (int position = kComputerFirst; position <= kConsidered; ++position) {
-    cards[position] = s_.mazzoRam[position];
-  }
-  ramino::analyse(cards, s_.marking);
+  for (int p = kComputerFirst; p <= kConsidered; ++p) cards[p] = mazzoRam[p];
+  clearPairs(marking_);
+  analyse(cards, marking_);
 }
 
-/// Throws the card from the stock, or keeps it and throws another. False if it can do neither: four `tris`
-/// leave no card to throw.
+/// Throws the considered card, or keeps it and throws another. False if it can do neither.
 bool Ramino::place() {
-  const Mark mark = s_.marking.segnoRam[kConsidered];
-  const bool thrown = mark == Mark::Free || (mark == Mark::Pair && allMarked(s_.marking));
-  if (thrown) s_.mazzoRam[kTable] = s_.mazzoRam[kConsidered];
-  const bool kept = mark != Mark::Free && fitIn();
-  return thrown || kept;
+  const Mark mark = marking_.segnoRam[kConsidered];
+  const bool thrown = mark == Mark::Free || (mark == Mark::Pair && allMarked(marking_));
+  if (thrown) mazzoRam[kTable] = mazzoRam[kConsidered];
+  return thrown || fitIn();
 }
 
 /// The considered card takes the lowest free place in the hand, or, to complete a `tris` in a hand without
 /// one, that of the lowest paired card, and throws what is there. False if there is no such place.
 bool Ramino::fitIn() {
-  auto& marks = s_.marking.segnoRam;
-  const bool breaksPairs = allMarked(s_.marking) && marks[kConsidered] == Mark::Tris;
+  auto& marks = marking_.segnoRam;
+  const bool breaksPairs = allMarked(marking_) && marks[kConsidered] == Mark::Tris;
   for (int position = kComputerFirst; position <= kComputerLast; ++position) {
     const bool gives = marks[position] == Mark::Free || (marks[position] == Mark::Pair && breaksPairs);
     if (!gives) continue;
-    s_.mazzoRam[kTable] = s_.mazzoRam[position];
-    s_.mazzoRam[position] = s_.mazzoRam[kConsidered];
+    mazzoRam[kTable] = mazzoRam[position];
+    mazzoRam[position] = mazzoRam[kConsidered];
     marks[position] = marks[kConsidered];
-    s_.marking.grupRam[position] = s_.marking.grupRam[kConsidered];
+    marking_.grupRam[position] = marking_.grupRam[kConsidered];
     marks[kConsidered] = Mark::Free;
     return true;
   }
   return false;
 }
 
-void Ramino::end(Result result) {
-  s_.phase = Phase::Over;
-  s_.result = result;
-  if (result == Result::Won) ++s_.vintiUmanoRam;
-  if (result == Result::Lost) ++s_.vintiCompRam;
+/// A table card is covered by one from the stock.
+void Ramino::list(std::int16_t card) {
+  scarti_[nScartiRam] = card;
+  add(nScartiRam, 1);
 }
+
+void Ramino::end(Phase how) {
+  phase_ = how;
+  if (how == Phase::StockOut) return;
+  add(how == Phase::Won ? vintiUmanoRam : vintiCompRam, 1);
+  tableCardShown_ = false;
+}
+
+bool Ramino::goesOn() const { return isOver() && vintiUmanoRam < kHandsToWin && vintiCompRam < kHandsToWin; }
 
 }  // namespace tombolario::ramino

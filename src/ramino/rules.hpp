@@ -10,75 +10,86 @@
 namespace tombolario::ramino {
 
 inline constexpr int kListPlaces = 37;  ///< of the list of discards, more than a hand can fill
-inline constexpr int kHandsToWin = 9;
 
 /// The beginner always draws from the stock; the expert takes the table card where it makes a `tris`.
 enum class Level { Beginner, Expert };
 
-enum class Phase { ToDraw, InPlay, Placed, Over };
+/// The player's turn up to the computer's, or how the hand has ended.
+enum class Phase { ToDraw, InPlay, Placed, Won, Lost, StockOut };
 
-/// How a hand has ended.
-enum class Result { None, Won, Lost, Drawn };
+/// Where the card in play is from, if there is one.
+enum class Pile { None, Stock, Table };
 
 enum class FrameState { Free, Selected, Locked };
 
-/// Everything that a hand of ramino and its match have come to.
-struct State {
-  Numbers<0, kPack - 1> mazzoRam{};  ///< the card at each position, as dealt and as moved since
-  Marking marking;                   ///< of the computer's positions
-  Slots<FrameState, 0, kPlayerCards - 1> frames{};
-  int selRam = 0;  ///< how many frames are selected, up to 3
-  int cimaRam = kStockFirst;
-  Phase phase = Phase::ToDraw;
-  Result result = Result::None;
-  Numbers<0, kListPlaces - 1> scarti{};  ///< covered table cards, to look at
-  int nScartiRam = 0;
-  std::int16_t vintiUmanoRam = 0;
-  std::int16_t vintiCompRam = 0;
-};
-
-/// A match of ramino against the computer.
+/// A match of ramino against the computer. What the phase does not allow does nothing.
 class Ramino {
  public:
-  /// A new match, with no hand won.
-  void begin();
-  /// Deals a hand. The frames stay as they are.
-  void avvioRAM(UniformSource& uniform);
-  void freeFrames();
+  /// Deals the first hand of a match, at any moment.
+  void newMatch(UniformSource& uniform);
+  /// Deals the next hand, after one that has ended, where the match goes on.
+  void nextHand(UniformSource& uniform);
 
-  /// The player draws the next card of the stock; with the last one the hand is drawn.
+  /// The player, who has drawn nothing yet, draws the next card of the stock; the last one ends the hand.
   void drawFromStock();
-  /// The player takes the table card.
+  /// The player, who has drawn nothing yet, takes the table card.
   void takeFromTable();
-  /// The player leaves the card in play on the table.
+  /// The card in play goes to the table.
   void leave();
-  /// The player presses a card's button: exchanges it for the card in play, or selects it or not. Three
-  /// that are selected and pass lock as a `tris`; the third `tris` wins the hand.
+  /// The player presses the button of a card, 0 to 8, as long as the hand lasts: exchanges it for the card in
+  /// play, or else selects it or not. Three that are selected and pass lock as a `tris`; the third `tris`
+  /// wins the hand.
   void press(int card);
-  /// Exchanges the places of two selected cards.
+  /// Exchanges the places of two selected cards, also when the hand is over; nothing unless two are.
   void swapSelected();
+  /// The computer's whole turn, when the player's is done.
+  void computerTurn(Level level);
 
-  /// The computer's whole turn. True if it took the table card for a `tris`.
-  bool computerTurn(Level level);
-
-  /// Whether a hand can follow in this match.
-  bool goesOn() const { return s_.vintiUmanoRam < kHandsToWin && s_.vintiCompRam < kHandsToWin; }
-  int card(int position) const { return s_.mazzoRam[position]; }
-  const State& state() const { return s_; }
+  Phase phase() const { return phase_; }
+  bool isOver() const { return phase_ > Phase::Placed; }
+  /// Whether the hand is over and another can follow in this match.
+  bool goesOn() const;
+  /// Stays on the stock when its last card has ended the hand.
+  Pile inPlayFrom() const { return inPlayFrom_; }
+  /// Whether the player sees the table card that completes a `tris` of the expert's: until the computer's
+  /// next turn, or until a side wins.
+  bool tableCardShown() const { return tableCardShown_; }
+  int card(int position) const { return mazzoRam[position]; }
+  FrameState frame(int card) const { return frames_[card]; }
+  /// How many cards the player has selected, up to 3.
+  int selRam() const;
+  const Marking& marking() const { return marking_; }
+  /// The table cards that were covered, to look at.
+  int discards() const { return nScartiRam; }
+  int discard(int place) const { return scarti_[place]; }
+  int wonByPlayer() const { return vintiUmanoRam; }
+  int wonByComputer() const { return vintiCompRam; }
 
  private:
-  void takeInHand();
-  void list(std::int16_t card);
-  void exchange(int card);
-  void lockTris();
+  void avvioRAM(UniformSource& uniform);
+  void takeInHand(Pile from);
+  void unlock(int card);
   bool selectedAreTris() const;
-  void analyse();
+  void lockTris();
+  bool lookAtTable();
+  void playFromStock();
   void consider(int position);
   bool place();
   bool fitIn();
-  void end(Result result);
+  void list(std::int16_t card);
+  void end(Phase how);
 
-  State s_;
+  Numbers<0, kPack - 1> mazzoRam{};  ///< the card at each position, as dealt and as moved since
+  Marking marking_;                  ///< of the computer's positions
+  Slots<FrameState, 0, kPlayerCards - 1> frames_{};
+  std::int16_t cimaRam = kStockFirst;  ///< the next position of the stock
+  Phase phase_ = Phase::ToDraw;
+  Pile inPlayFrom_ = Pile::None;
+  bool tableCardShown_ = false;
+  Numbers<0, kListPlaces - 1> scarti_{};
+  std::int16_t nScartiRam = 0;
+  std::int16_t vintiUmanoRam = 0;
+  std::int16_t vintiCompRam = 0;
 };
 
 }  // namespace tombolario::ramino

@@ -1,13 +1,28 @@
-#include "ramino/table.hpp"
+#include <algorithm>
 
-#include <initializer_list>
+#include "pictures/catalogue.hpp"
 #include "ramino/game.hpp"
+#include "ramino/rules.hpp"
+#include "toolkit/control_array.hpp"
+#include "toolkit/controls.hpp"
 #include "toolkit/cursors.hpp"
 #include "toolkit/marks.hpp"
+#include "toolkit/screens.hpp"
+#include "toolkit/scroll_bar.hpp"
 
 namespace tombolario::ramino {
 
 namespace {
+
+constexpr Look cardLook(bool visible) {
+  return {.back = kWhite, .border = Border::Single, .visible = visible};
+}
+/// Lies about a card that the player has drawn.
+constexpr Look takenLook() { return {.back = 0xFFFFC0, .border = Border::Etched, .visible = false}; }
+/// Bears cards of the computer's.
+constexpr Look shownLook() { return {.back = 0xC0C0C0, .border = Border::Etched, .visible = false}; }
+
+PictureId picture(int card) { return {pictures::ramcar, card}; }
 
 Colour colourOf(FrameState frame) {
   switch (frame) {
@@ -18,243 +33,272 @@ Colour colourOf(FrameState frame) {
   return kAtRest;
 }
 
-}  // namespace
+// clang-format off
+struct Levels : Frame {
+  explicit Levels(Control& parent)
+      : Frame(parent, "rancentrale", {4320, 3480, 3375, 1455}, groupLook(), "DIFFICOLTA'") {}
 
-Table::Table(Form& owner, Host& host) : form(owner), host_(host) {
-  for (int card = 0; card < kPlayerCards; ++card) ramCom[card].onClick = [this, card] { ramCom_Click(card); };
-  VScrollram1.onChange = [this] { VScrollram1_Change(); };
-  mazzoram.onClick = [this] { mazzoram_Click(); };
-  tavoloram.onClick = [this] { tavoloram_Click(); };
-  ramlas.onClick = [this] { ramlas_Click(); };
-  scambiaram.onClick = [this] { scambiaram_Click(); };
-  ramturncom.onClick = [this] { ramturncom_Click(); };
-  Continuaramino.onClick = [this] { Continuaramino_Click(); };
-  ALTRORAM.onClick = [this] { ALTRORAM_Click(); };
-  GIOCORAM.onClick = [this] { GIOCORAM_Click(); };
-  ramesc.onClick = [this] { ramesc_Click(); };
-}
+  OptionButton Opram1{*this, "Opram1", {480, 360, 2415, 375}, "principante", false, optionLook()};
+  OptionButton Opram2{*this, "Opram2", {480, 840, 2415, 375}, "esperto", true, optionLook()};
+};
 
-void Table::start() {
-  begin();
-  avvioRAM();
-}
+struct Entrance : Frame {
+  explicit Entrance(Form& form) : Frame(form, "frame6", kFullSize, screenLook(kRed)) {}
 
-/// A match without a hand won.
-void Table::begin() {
-  game_.begin();
-  PRAMC.Caption = game_.state().vintiCompRam;
-  PRAMH.Caption = game_.state().vintiUmanoRam;
-}
+  Label ramETIC{*this, "ramETIC", kTitleBar, "RAMINO", stripLook(kYellow, kBlue)};
+  PictureBox Picram{*this, "Picram", {2490, 1020, 7020, 2130}, {.back = 0xC0C0C0, .picture = pictures::Picram}};
+  Levels rancentrale{*this};
+  Button MENURAM{*this, "MENURAM", {4320, 5160, 3375, 495}, "MENU'", buttonLook(0xFF8080)};
+  Button GIOCORAM{*this, "GIOCORAM", {4320, 5640, 3375, 495}, "GIOCO", buttonLook(kYellow)};
+};
 
-/// Deals a hand.
-void Table::avvioRAM() {
-  for (Control* control : std::initializer_list<Control*>{&Ramfr[kInPlay], &Frame19b, &ramper, &ramvin,
-                                                          &rampar, &avvram, &ramcomp}) {
-    control->Visible = false;
+/// Lies about the card in play where that is from the stock.
+struct DrawnCard : Frame {
+  explicit DrawnCard(Control& parent) : Frame(parent, {"Ramfr", kInPlay}, {240, 240, 1095, 1560}, takenLook()) {}
+
+  PictureBox ramin{*this, {"ramin", kInPlay}, {240, 360, 630, 915}, cardLook(true)};
+};
+
+struct Piles : Frame {
+  explicit Piles(Control& parent)
+      : Frame(parent, "Rancarte", {4680, 2160, 2655, 3255}, {.back = 0xC0FFFF, .border = Border::Etched}) {}
+
+  PictureBox PicRAM3{*this, "PicRAM3", {480, 600, 600, 885}, {.back = kYellow, .picture = pictures::PicRAM3}};
+  Frame Frame19b{*this, "Frame19b", {1320, 240, 1095, 1560}, takenLook()};
+  PictureBox cartatr{*this, "cartatr", {1560, 600, 630, 915}, cardLook(true)};
+  Button mazzoram{*this, "mazzoram", {120, 1800, 1215, 375}, "MAZZO", buttonLook(kYellow)};
+  Button tavoloram{*this, "tavoloram", {1320, 1800, 1215, 375}, "TAVOLO", buttonLook(0x80FF80)};
+  DrawnCard Ramfr{*this};
+};
+
+/// One of the player's nine.
+struct PlayerCard : Frame {
+  PlayerCard(Control& parent, int k)
+      : Frame(parent, {"Ramfr", k}, {1080 + 1080 * k, 5880, 1095, 2295},
+              {.back = kAtRest, .border = Border::Etched}) {}
+
+  PictureBox ramin{*this, {"ramin", name().index}, {240, 480, 630, 915}, cardLook(true)};
+  Button ramCom{*this, {"ramCom", name().index}, {120, 1680, 855, 375}, "", buttonLook(kRed, pictures::rampul1)};
+};
+
+struct Discards : Frame {
+  explicit Discards(Control& parent)
+      : Frame(parent, "ramscar", {1680, 2160, 1815, 3255}, {.back = 0xC0FFFF, .border = Border::Etched}) {}
+
+  Label Lscarram{*this, "Lscarram", {180, 420, 990, 255}, "Scarti", {.back = 0xC0FFFF, .font = kButtonFont}};
+  ControlArray<PictureBox, 0, kListPlaces - 1> visualram{[this](int i) {
+    return PictureBox{*this, {"visualram", i}, {360, 1080, 630, 915}, cardLook(false)}; }};
+  ScrollBar VScrollram1{*this, "VScrollram1", {1200, 360, 375, 2295}, ScrollBar::Direction::Vertical};
+};
+
+/// The computer's hand, which the player sees when it has won.
+struct OpenHand : Frame {
+  explicit OpenHand(Control& parent) : Frame(parent, "avvram", {2640, 0, 6975, 1695}, shownLook()) {}
+
+  ControlArray<PictureBox, kComputerFirst, kComputerLast> ramin{[this](int position) {
+    return PictureBox{*this, {"ramin", position}, {600 * (position - kComputerFirst + 1), 390, 630, 915},
+                      cardLook(false)}; }};
+};
+
+struct ConsideredCard : Frame {
+  explicit ConsideredCard(Control& parent) : Frame(parent, "ramcomp", {5040, 0, 1815, 1695}, shownLook()) {}
+
+  Label lcpram{*this, "lcpram", {120, 150, 1575, 255}, "Carta pescata", {.back = 0xC0C0C0, .font = kButtonFont}};
+  PictureBox ramin{*this, {"ramin", kConsidered}, {600, 570, 630, 915}, cardLook(false)};
+};
+
+struct Score : PictureBox {
+  explicit Score(Control& parent)
+      : PictureBox(parent, "RAMRESULT", {8400, 3480, 2475, 1215}, {.back = kWhite, .picture = pictures::RAMRESULT}) {}
+
+  PictureBox rampar{*this, "rampar", kNames, {.back = kBlack, .picture = pictures::rampar, .visible = false}};
+  PictureBox ramvin{*this, "ramvin", kNames, {.back = kBlack, .picture = pictures::ramvin, .visible = false}};
+  PictureBox ramper{*this, "ramper", kNames, {.back = kBlack, .picture = pictures::ramper, .visible = false}};
+  Label PRAMC{*this, "PRAMC", {1680, 400, 615, 255}, "", {.back = kTotal, .font = {.bold = true}}};
+  Label PRAMH{*this, "PRAMH", {1680, 840, 615, 255}, "", {.back = kTotal, .font = {.bold = true}}};
+
+  static constexpr Colour kTotal = 0x0080FF;
+  static constexpr Box kNames{0, 0, 1515, 1215};
+};
+
+struct Play : Frame {
+  explicit Play(Form& form) : Frame(form, "Frame6bis", kFullSize, screenLook(SystemColour::Window)) {}
+
+  Piles Rancarte{*this};
+  ControlArray<PlayerCard, 0, kPlayerCards - 1> Ramfr{[this](int k) { return PlayerCard{*this, k}; }};
+  Discards ramscar{*this};
+  OpenHand avvram{*this};
+  ConsideredCard ramcomp{*this};
+  Button ramturncom{*this, "ramturncom", {4800, 4320, 2415, 375}, "TURNO DEL COMPUTER", buttonLook(0xFF8080)};
+  Button ramlas{*this, "ramlas", {4800, 4680, 2415, 375}, "", buttonLook(kBlue, pictures::ramlas)};
+  Button scambiaram{*this, "scambiaram", {10920, 6840, 735, 495}, "", buttonLook(kYellow, pictures::scambiaram)};
+  Button ramesc{*this, "ramesc", {8400, 2280, 2475, 495}, "ESCI", buttonLook(0xFFC0C0)};
+  Button ALTRORAM{*this, "ALTRORAM", {8400, 2760, 2475, 495}, "ALTRA PARTITA", buttonLook(0x00E0E0)};
+  Button Continuaramino{*this, "Continuaramino", {8400, 4920, 2475, 375}, "CONTINUA",
+                        {.back = 0xFFC080, .font = kButtonFont, .visible = false}};
+  Score RAMRESULT{*this};
+};
+// clang-format on
+
+class Table : public Game {
+ public:
+  Table(Form& form, Host& host) : uniform_(host.uniform()), entrance_(form), play_(form) {
+    for (PlayerCard& card : play_.Ramfr) {
+      giveCursor(pictures::Label13, {&card.ramCom});
+      card.ramCom.onClick = [this, k = card.name().index] {
+        game_.press(k);
+        show();
+      };
+    }
+    // There is nothing to clear: the way back here deals.
+    entrance_.GIOCORAM.onClick = [this] { changeScreen(entrance_, play_); };
+    play_.Rancarte.mazzoram.onClick = [this] {
+      game_.drawFromStock();
+      show();
+      showLastDiscard();
+    };
+    play_.Rancarte.tavoloram.onClick = [this] {
+      game_.takeFromTable();
+      show();
+    };
+    play_.ramlas.onClick = [this] {
+      game_.leave();
+      show();
+    };
+    play_.scambiaram.onClick = [this] {
+      game_.swapSelected();
+      show();
+    };
+    play_.ramturncom.onClick = [this] { ramturncom_Click(); };
+    play_.ramscar.VScrollram1.onChange = [this] { showDiscards(); };
+    play_.Continuaramino.onClick = [this] {
+      game_.nextHand(uniform_);
+      showDeal();
+    };
+    play_.ALTRORAM.onClick = [this] { newMatch(); };
+    play_.ramesc.onClick = [this] {
+      changeScreen(play_, entrance_);
+      newMatch();
+    };
   }
-  enableButtons(true);
-  showButtons(pictures::rampul1, kRed);
-  for (Button& button : ramCom) giveCursor(pictures::Label13, {&button});
-  VScrollram1.Max = 0;
-  for (PictureBox& entry : visualram) entry.Visible = false;
-  game_.avvioRAM(host_.uniform());
-  ramin[kInPlay].Picture = PictureId();
-  showCards();
-  showTurn();
-}
 
-/// "GIOCO".
-void Table::GIOCORAM_Click() {
-  changeScreen(frame6, Frame6bis);
-  ramesc.Visible = true;
-  ramvin.Visible = false;
-  ramper.Visible = false;
-  enableButtons(true);
-}
+  Frame& entrance() override { return entrance_; }
+  Button& wayBack() override { return entrance_.MENURAM; }
+  void start() override { newMatch(); }
 
-/// "MAZZO": the next card of the stock comes into play, and the table card is covered.
-void Table::mazzoram_Click() {
-  const int listed = game_.state().nScartiRam;
-  game_.drawFromStock();
-  showDiscards(listed);
-  Ramfr[kInPlay].Visible = true;
-  drawn();
-}
+ private:
+  Level level() const { return entrance_.rancentrale.Opram2.Value == 1 ? Level::Expert : Level::Beginner; }
 
-/// "TAVOLO": the table card comes into play, and stays on view.
-void Table::tavoloram_Click() {
-  game_.takeFromTable();
-  Frame19b.Visible = true;
-  drawn();
-}
-
-void Table::drawn() {
-  ramin[kInPlay].Picture = {pictures::ramcar, game_.card(kInPlay)};
-  showButtons(pictures::rampul2, kBlue);
-  showTurn();
-  endHand();
-}
-
-/// "lascia": the card in play goes to the table.
-void Table::ramlas_Click() {
-  game_.leave();
-  placed();
-}
-
-/// The button of a card: "Segna", or the two arrows that exchange it for the card in play.
-void Table::ramCom_Click(int card) {
-  const bool inPlay = game_.state().phase == Phase::InPlay;
-  game_.press(card);
-  if (inPlay) {
-    placed();
-  } else {
-    showCards();
-    showTurn();
+  void newMatch() {
+    game_.newMatch(uniform_);
+    showDeal();
   }
-  endHand();
-}
 
-/// The card in play has its place.
-void Table::placed() {
-  showButtons(pictures::rampul1, kRed);
-  Ramfr[kInPlay].Visible = false;
-  Frame19b.Visible = false;
-  showCards();
-  showTurn();
-}
-
-/// Two cards change places.
-void Table::scambiaram_Click() {
-  game_.swapSelected();
-  showCards();
-  showTurn();
-}
-
-/// "TURNO DEL COMPUTER": the expert shows the table card that it takes.
-void Table::ramturncom_Click() {
-  const int listed = game_.state().nScartiRam;
-  const bool tookTable = game_.computerTurn(level());
-  if (level() == Level::Expert) {
-    ramin[kConsidered].Visible = true;
-    ramcomp.Visible = tookTable;
+  void showDeal() {
+    play_.Rancarte.Ramfr.ramin.Picture = PictureId();
+    play_.ramcomp.ramin.Visible = false;
+    show();
   }
-  showDiscards(listed);
-  showCards();
-  showTurn();
-  endHand();
-}
 
-/// "CONTINUA": the next hand of the match.
-void Table::Continuaramino_Click() {
-  clearTable();
-  avvioRAM();
-}
-
-/// "ALTRA PARTITA".
-void Table::ALTRORAM_Click() {
-  begin();
-  clearTable();
-  avvioRAM();
-}
-
-/// "ESCI": the hand and the match are lost.
-void Table::ramesc_Click() {
-  begin();
-  changeScreen(Frame6bis, frame6);
-  clearTable();
-  avvioRAM();
-}
-
-/// No card stays selected or locked, and the computer's are seen no more.
-void Table::clearTable() {
-  game_.freeFrames();
-  for (int position = kComputerFirst; position <= kConsidered; ++position) ramin[position].Visible = false;
-  Continuaramino.Visible = false;
-}
-
-/// One of the covered cards is on view.
-void Table::VScrollram1_Change() {
-  for (int i = 0; i < kListPlaces; ++i) visualram[i].Visible = i == VScrollram1.Value;
-}
-
-/// A card that has just been covered comes into view in the list, which had so many entries before.
-void Table::showDiscards(int listed) {
-  if (game_.state().nScartiRam == listed) return;
-  const int last = listed;
-  visualram[last].Picture = {pictures::ramcar, game_.state().scarti[last]};
-  visualram[last].Visible = true;
-  VScrollram1.Max = last;
-  VScrollram1.Value = last;
-}
-
-void Table::showCards() {
-  for (int position = 0; position <= kConsidered; ++position) {
-    if (position != kInPlay) ramin[position].Picture = {pictures::ramcar, game_.card(position)};
+  /// "TURNO DEL COMPUTER". The card that the expert looks at is face up for the rest of the hand, though its
+  /// frame is in sight only while it shows the table card.
+  void ramturncom_Click() {
+    const int discards = game_.discards();
+    game_.computerTurn(level());
+    if (level() == Level::Expert) play_.ramcomp.ramin.Visible = true;
+    show();
+    if (game_.discards() > discards) showLastDiscard();
   }
-  cartatr.Picture = {pictures::ramcar, game_.card(kTable)};
-}
 
-/// Which buttons the phase of the turn allows, and the frames.
-void Table::showTurn() {
-  const State& now = game_.state();
-  mazzoram.Enabled = now.phase == Phase::ToDraw;
-  tavoloram.Enabled = now.phase == Phase::ToDraw;
-  ramlas.Enabled = now.phase == Phase::InPlay;
-  ramturncom.Enabled = now.phase == Phase::Placed;
-  scambiaram.Enabled = now.selRam == 2;
-  for (int card = 0; card < kPlayerCards; ++card) Ramfr[card].BackColor = colourOf(now.frames[card]);
-}
-
-void Table::showButtons(const PictureId& picture, Colour back) {
-  for (Button& button : ramCom) {
-    button.Picture = picture;
-    button.BackColor = back;
+  void show() {
+    showPlayer();
+    showPiles();
+    showComputer();
+    showDiscards();
+    showScore();
   }
-}
 
-void Table::enableButtons(bool enabled) {
-  for (Button& button : ramCom) button.Enabled = enabled;
-}
-
-/// Shows how the hand has ended, if it has.
-void Table::endHand() {
-  const Result result = game_.state().result;
-  if (result == Result::None) return;
-  enableButtons(false);
-  switch (result) {
-    case Result::None: break;
-    case Result::Won:
-      ramvin.Visible = true;
-      ramcomp.Visible = false;
-      PRAMH.Caption = game_.state().vintiUmanoRam;
-      break;
-    case Result::Lost:
-      PRAMC.Caption = game_.state().vintiCompRam;
-      ramper.Visible = true;
-      ramcomp.Visible = false;
-      showComputersTris();
-      break;
-    case Result::Drawn:
-      for (Button& button : ramCom) button.Picture = pictures::rampul1;
-      rampar.Visible = true;
-      break;
+  /// The buttons of the cards stay blue when the last card of the stock has ended the hand.
+  void showPlayer() {
+    for (PlayerCard& card : play_.Ramfr) {
+      const int k = card.name().index;
+      card.BackColor = colourOf(game_.frame(k));
+      card.ramin.Picture = picture(game_.card(k));
+      card.ramCom.Enabled = !game_.isOver();
+      card.ramCom.Picture = game_.phase() == Phase::InPlay ? pictures::rampul2 : pictures::rampul1;
+      card.ramCom.BackColor = game_.inPlayFrom() == Pile::None ? kRed : kBlue;
+    }
+    play_.scambiaram.Enabled = game_.selRam() == 2;
   }
-  if (game_.goesOn()) Continuaramino.Visible = true;
-}
 
-/// Side by side, in the order in which the computer made them.
-void Table::showComputersTris() {
-  const Marking& marking = game_.state().marking;
-  int left = 0;
-  for (int tris = 0; tris < 3; ++tris) {
-    for (int position = kComputerFirst; position <= kComputerLast; ++position) {
-      if (marking.segnoRam[position] != Mark::Tris || marking.grupRam[position] != tris) continue;
-      ramin[position].Visible = true;
-      ramin[position].Left = left += 600;
+  /// The piles, and what the phase allows to do with them.
+  void showPiles() {
+    Piles& piles = play_.Rancarte;
+    piles.mazzoram.Enabled = piles.tavoloram.Enabled = game_.phase() == Phase::ToDraw;
+    play_.ramlas.Enabled = game_.phase() == Phase::InPlay;
+    play_.ramturncom.Enabled = game_.phase() == Phase::Placed;
+    piles.cartatr.Picture = picture(game_.card(kTable));
+    piles.Frame19b.Visible = game_.inPlayFrom() == Pile::Table;
+    piles.Ramfr.Visible = game_.inPlayFrom() == Pile::Stock;
+    // Out of sight, the last card in play keeps its picture until the next deal.
+    if (game_.inPlayFrom() != Pile::None) piles.Ramfr.ramin.Picture = picture(game_.card(kInPlay));
+  }
+
+  /// The card that it considers, and what has won the hand: its `tris` side by side, in the order in which it
+  /// made them.
+  void showComputer() {
+    const Marking& marking = game_.marking();
+    const bool lost = game_.phase() == Phase::Lost;
+    const auto laidOpen = [&](int position) { return lost && marking.segnoRam[position] == Mark::Tris; };
+    play_.ramcomp.Visible = game_.tableCardShown();
+    play_.ramcomp.ramin.Picture = picture(game_.card(kConsidered));
+    play_.avvram.Visible = lost;
+    for (PictureBox& card : play_.avvram.ramin) {
+      const int position = card.name().index;
+      card.Picture = picture(game_.card(position));
+      card.Visible = laidOpen(position);
+    }
+    int left = 0;
+    for (int tris = 0; tris < marking.nGrupRam; ++tris) {
+      for (PictureBox& card : play_.avvram.ramin) {
+        const int position = card.name().index;
+        if (laidOpen(position) && marking.grupRam[position] == tris) card.Left = left += 600;
+      }
     }
   }
-  avvram.Visible = true;
-}
+
+  /// The covered card of the bar's place.
+  void showDiscards() {
+    Discards& list = play_.ramscar;
+    list.VScrollram1.Max = std::max(0, game_.discards() - 1);
+    for (PictureBox& entry : list.visualram) {
+      const int place = entry.name().index;
+      const bool listed = place < game_.discards();
+      entry.Visible = listed && place == list.VScrollram1.Value;
+      if (listed) entry.Picture = picture(game_.discard(place));
+    }
+  }
+
+  /// A card that has just been covered comes into view.
+  void showLastDiscard() { play_.ramscar.VScrollram1.Value = game_.discards() - 1; }
+
+  void showScore() {
+    Score& score = play_.RAMRESULT;
+    score.ramvin.Visible = game_.phase() == Phase::Won;
+    score.ramper.Visible = game_.phase() == Phase::Lost;
+    score.rampar.Visible = game_.phase() == Phase::StockOut;
+    score.PRAMC.Caption = game_.wonByComputer();
+    score.PRAMH.Caption = game_.wonByPlayer();
+    play_.Continuaramino.Visible = game_.goesOn();
+  }
+
+  UniformSource& uniform_;
+  Entrance entrance_;
+  Play play_;
+  Ramino game_;
+};
+
+}  // namespace
 
 std::unique_ptr<Game> makeGame(Form& form, Host& host) { return std::make_unique<Table>(form, host); }
 
