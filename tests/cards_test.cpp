@@ -87,7 +87,7 @@ INSTANTIATE_TEST_SUITE_P(
         Deal{"poker", 52, 0, 50, 52, [](UniformSource& u) { poker::Poker().newMatch(u); }},
         Deal{"ramino", 52, 0, 50, 52, [](UniformSource& u) { ramino::Ramino().newMatch(u); }},
         Deal{"domino", 28, 0, 27, 28, [](UniformSource& u) { domino::Domino().inizioDOMINO(u); }},
-        Deal{"chain", 12, 1, 7, 8, [](UniformSource& u) { chain::Chain().avviocatena(u); }},
+        Deal{"chain", 12, 1, 7, 8, [](UniformSource& u) { chain::Chain().begin(u); }},
         Deal{"mahjongg", 120, 0, 119, 120, [](UniformSource& u) { mahjongg::Mahjongg().avvioMAH(u); }}),
     [](const auto& deal) { return deal.param.game; });
 

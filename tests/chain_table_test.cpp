@@ -1,8 +1,10 @@
 #include <algorithm>
 #include <array>
+#include <functional>
 #include <map>
 #include <set>
 
+#include "chain/rules.hpp"
 #include "pictures/catalogue.hpp"
 #include "sanitized.hpp"
 #include "table_test.hpp"
@@ -441,22 +443,52 @@ TEST_F(ChainTable, AGameIsStoredAndTakenUpInALaterRun) {
   EXPECT_NE(later.answer("get pictca(1) Picture").find("Picture2("), std::string::npos);
 }
 
-TEST_F(ChainTable, WithoutAFileOneIsMadeAndADirectoryStays) {
-  const auto file = room.data.path() / "CATENA.dat";
+TEST_F(ChainTable, WithoutAFileOneIsMade) {
   click("CARCAT");
-  EXPECT_TRUE(std::filesystem::is_regular_file(file));
+  EXPECT_TRUE(std::filesystem::is_regular_file(room.data.path() / "CATENA.dat"));
   EXPECT_EQ(stored(), "");
   room.expect({"CARCAT Enabled=0", "CoNTCAT Enabled=0"});
-  std::filesystem::remove(file);
-  std::filesystem::create_directory(file);
-  plain.canLoad = false;
-  while (!plain.canSave) {
-    begin(false);
-    while (plain.onTable) playGreedily();
+}
+
+TEST_F(ChainTable, TheRulesThemselvesRefuseWhatThePhaseDoesNotAllow) {
+  using chain::Chain;
+  constexpr auto kMode = chain::Mode::OneExchange;
+  ScriptedSource chance;
+  struct Operation {
+    std::string_view phases;  // idle, in a level, passed, failed
+    std::function<void(Chain&)> run;
+  };
+  const std::vector<Operation> operations{{"ipf", [&](Chain& game) { game.begin(chance); }},
+                                          {"p", [&](Chain& game) { game.nextLevel(chance); }},
+                                          {"l", [&](Chain& game) { game.endHand(chance); }},
+                                          {"l", [](Chain& game) { game.markSubstitution(2, kMode); }},
+                                          {"l", [](Chain& game) { game.markExchange(3, kMode); }},
+                                          {"l", [](Chain& game) { game.markExchange(4, kMode); }},
+                                          {"l", [](Chain& game) { game.substitute(); }},
+                                          {"l", [](Chain& game) { game.exchange(); }},
+                                          {"ipf", [](Chain& game) { game.resume(31, 4); }},
+                                          {"pf", [](Chain& game) { game.leave(); }}};
+  Chain game;
+  std::array<int, 4> refusals{};
+  const auto stateOf = [&] {
+    std::vector<int> state{static_cast<int>(game.phase()), game.score(), game.level(), game.handsLeft()};
+    for (int i = 1; i <= 7; ++i) state.push_back(game.tile(i));
+    for (int i = 1; i <= 5; ++i) state.push_back(game.isToSubstitute(i) + 2 * game.isToExchange(i));
+    return state;
+  };
+  for (int i = 0; i < 20'000; ++i) {
+    const auto& [phases, run] = operations.at(static_cast<std::size_t>(pick(operations.size())));
+    const auto phase = static_cast<std::size_t>(game.phase());
+    const bool allowed = phases.find("ilpf"[phase]) != std::string::npos;
+    const auto before = stateOf();
+    const bool substituted = game.substituted();
+    run(game);
+    EXPECT_TRUE(allowed || stateOf() == before) << "ilpf"[phase];
+    refusals.at(phase) += !allowed;
+    EXPECT_FALSE(substituted && game.isToSubstitute(2)) << "a second substitution";
+    EXPECT_LE(game.exchanges(), 1);
   }
-  click("SALVACAT");
-  EXPECT_TRUE(std::filesystem::is_directory(file));
-  expectSeen();
+  for (const int count : refusals) EXPECT_GT(count, 0);
 }
 
 }  // namespace
