@@ -6,7 +6,6 @@
 
 #include "null_painter.hpp"
 #include "toolkit/controls.hpp"
-#include "toolkit/marks.hpp"
 
 namespace tombolario {
 namespace {
@@ -255,15 +254,8 @@ TEST_F(FormTest, TheCursorIsThatOfTheControlThatHasTheMouse) {
   EXPECT_FALSE(form.cursor());
 }
 
-TEST_F(FormTest, AMarkTurnsOverAndAnyOtherColourStays) {
-  ground.BackColor = kAtRest;
-  toggleMark(ground);
-  EXPECT_EQ(ground.BackColor, kMarked);
-  toggleMark(ground);
-  EXPECT_EQ(ground.BackColor, kAtRest);
-  ground.BackColor = 0xDFDFDF;
-  toggleMark(ground);
-  EXPECT_EQ(ground.BackColor, 0xDFDFDF);
+TEST_F(FormTest, TwoControlsOfOneNameStopTheStart) {
+  EXPECT_THROW((Button{ground, "first", {0, 0, 1, 1}, "", {}}), std::logic_error);
 }
 
 }  // namespace

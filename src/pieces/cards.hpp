@@ -1,8 +1,5 @@
 #pragma once
 
-#include <cstdint>
-#include <span>
-
 #include "pieces/slots.hpp"
 
 namespace tombolario {
@@ -18,9 +15,5 @@ inline constexpr Slots<const char*, 0, kValues - 1> kValueNames =
 /// The value (0 to 12) and the suit (1 to 4) of a card number, 0 to 51.
 constexpr int cardValue(int card) { return card % kValues; }
 constexpr int cardSuit(int card) { return card / kValues + 1; }
-
-/// Fills the tables from card number to value (0 to 12) and suit (1 to 4); both have at least 52 entries,
-/// those beyond are left alone.
-void fillCardTables(std::span<std::int16_t> values, std::span<std::int16_t> suits);
 
 }  // namespace tombolario
