@@ -31,21 +31,28 @@ constexpr Look hidden(Look look) {
 
 // clang-format off
 struct Modes : Frame {
-  explicit Modes(Control& parent) : Frame(parent, "framescelta", {960, 1800, 4455, 1935}, {.border = Border::Etched}) {}
+  explicit Modes(Control& parent)
+      : Frame(parent, "framescelta", {960, 1800, 4455, 1935}, {.border = Border::Etched}) {}
 
-  OptionButton Optca1{*this, "Optca1", {360, 420, 3975, 375}, "1 SCAMBIO - 2 SOSTITUZIONI", true, optionLook()};
-  OptionButton Optca2{*this, "Optca2", {360, 1020, 3975, 375}, "2 SCAMBI - 1 SOSTITUZIONE", false, optionLook()};
+  OptionButton Optca1{*this, "Optca1", {360, 420, 3975, 375}, "1 SCAMBIO - 2 SOSTITUZIONI", true,
+                      optionLook()};
+  OptionButton Optca2{*this, "Optca2", {360, 1020, 3975, 375}, "2 SCAMBI - 1 SOSTITUZIONE", false,
+                      optionLook()};
 };
 
 /// What the last level has come to.
 struct LevelResult : Frame {
-  explicit LevelResult(Control& parent) : Frame(parent, "Framevis", {960, 3600, 4455, 1575}, {.border = Border::Etched}) {}
+  explicit LevelResult(Control& parent)
+      : Frame(parent, "Framevis", {960, 3600, 4455, 1575}, {.border = Border::Etched}) {}
 
-  Label Label16ca{*this, "Label16ca", {240, 210, 2295, 375}, " PUNTEGGIO", stripLook(kYellow, kBlue, Align::Left)};
+  Label Label16ca{*this, "Label16ca", {240, 210, 2295, 375}, " PUNTEGGIO",
+                  stripLook(kYellow, kBlue, Align::Left)};
   Label Label3ca{*this, "Label3ca", {2535, 210, 1680, 375}, "", stripLook(kYellow, kBlue)};
-  Label Label11ca{*this, "Label11ca", {240, 600, 2295, 375}, " LIVELLO", stripLook(kWhite, kRed, Align::Left)};
+  Label Label11ca{*this, "Label11ca", {240, 600, 2295, 375}, " LIVELLO",
+                  stripLook(kWhite, kRed, Align::Left)};
   Label Label10ca{*this, "Label10ca", {2535, 600, 1680, 375}, "", stripLook(kWhite, kRed)};
-  Label Label13ca{*this, "Label13ca", {240, 990, 2295, 375}, " EN PLEIN", hidden(stripLook(kWhite, kOrange, Align::Left))};
+  Label Label13ca{*this, "Label13ca", {240, 990, 2295, 375}, " EN PLEIN",
+                  hidden(stripLook(kWhite, kOrange, Align::Left))};
   Label Label14ca{*this, "Label14ca", {2535, 990, 1680, 375}, "", hidden(stripLook(kWhite, kOrange))};
 };
 
@@ -69,12 +76,14 @@ struct Menu : Frame {
 };
 
 struct LevelScore : Frame {
-  explicit LevelScore(Control& parent) : Frame(parent, "Framevis2", {7320, 5760, 4335, 1815}, {.border = Border::Etched}) {}
+  explicit LevelScore(Control& parent)
+      : Frame(parent, "Framevis2", {7320, 5760, 4335, 1815}, {.border = Border::Etched}) {}
 
   Label Lok{*this, "Lok", {120, 120, 4095, 375}, "OK", hidden(stripLook(kWhite, kOrange))};
   Label Lpunca{*this, "Lpunca", {120, 540, 2655, 375}, " PUNTEGGIO", stripLook(kYellow, kBlue, Align::Left)};
   Label Lpuca{*this, "Lpuca", {2775, 540, 1440, 375}, "", stripLook(kYellow, kBlue)};
-  Label Lmanca{*this, "Lmanca", {120, 930, 2655, 375}, " MANI DA GIOCARE", stripLook(kBlack, kYellow, Align::Left)};
+  Label Lmanca{*this, "Lmanca", {120, 930, 2655, 375}, " MANI DA GIOCARE",
+               stripLook(kBlack, kYellow, Align::Left)};
   Label Lmacatpu{*this, "Lmacatpu", {2775, 930, 1440, 375}, "", stripLook(kBlack, kYellow)};
   Label Llivca{*this, "Llivca", {120, 1320, 2655, 375}, " LIVELLO", stripLook(kWhite, kRed, Align::Left)};
   Label Llivpuca{*this, "Llivpuca", {2775, 1320, 1440, 375}, "", stripLook(kWhite, kRed)};
@@ -92,7 +101,8 @@ struct Row : Frame {
     return Image{*this, {"pictca", i}, {onTable ? leftOf(i) : leftOf(1), 2760, 1380, 780},
                  {pictures::pictca, i}, onTable}; }};
   ControlArray<Button, 1, kRow> Comscam{[this](int i) {
-    return Button{*this, {"Comscam", i}, {leftOf(i) - 120, 1800, 1620, 375}, "SCAMBIO", buttonLook(0xFFC0C0)}; }};
+    return Button{*this, {"Comscam", i}, {leftOf(i) - 120, 1800, 1620, 375}, "SCAMBIO",
+                  buttonLook(0xFFC0C0)}; }};
   ControlArray<Button, 1, kRow> Comsost{[this](int i) {
     return Button{*this, {"Comsost", i}, {leftOf(i) - 120, 4200, i == 1 ? 1665 : 1620, 495}, kSubstitution,
                   buttonLook(0xFFFF80)}; }};

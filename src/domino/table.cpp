@@ -105,14 +105,17 @@ struct CountPanel : Frame {
 
 struct ScoreBoard : PictureBox {
   explicit ScoreBoard(Control& parent)
-      : PictureBox(parent, "tabdom", {4320, 360, 3435, 1215}, {.back = kWhite, .picture = pictures::tabdom}) {}
+      : PictureBox(parent, "tabdom", {4320, 360, 3435, 1215},
+                   {.back = kWhite, .picture = pictures::tabdom}) {}
 
   Label domcont2{*this, "domcont2", {1515, 315, 945, 435}, "", cellLook(kWhite, kRed)};
   Label domcont1{*this, "domcont1", {1515, 765, 945, 435}, "", cellLook(kWhite, kRed)};
   Label scoredom2{*this, "scoredom2", {2475, 315, 945, 435}, "", cellLook(kYellow, kBlue)};
   Label scoredom1{*this, "scoredom1", {2475, 765, 945, 435}, "", cellLook(kYellow, kBlue)};
 
-  static constexpr Look cellLook(Colour fore, Colour back) { return {.back = back, .fore = fore, .font = kButtonFont}; }
+  static constexpr Look cellLook(Colour fore, Colour back) {
+    return {.back = back, .fore = fore, .font = kButtonFont};
+  }
 };
 
 struct TableScreen : Frame {
@@ -144,10 +147,13 @@ struct TableScreen : Frame {
   Button NUOVAPARDOM{*this, "NUOVAPARDOM", {9480, 2640, 2295, 495}, "",
                      {.back = kYellow, .fore = kRed, .font = kTitleFont, .visible = false}};
   Button FINEDOM{*this, "FINEDOM", {9480, 3120, 2295, 495}, "FINE", buttonLook(kMatchGoesOn)};
-  Button passadomban{*this, "passadomban", {9480, 3600, 2295, 495}, "", buttonLook(kYellow, pictures::passadomban)};
+  Button passadomban{*this, "passadomban", {9480, 3600, 2295, 495}, "",
+                     buttonLook(kYellow, pictures::passadomban)};
   Button Commdomban{*this, "Commdomban", {9480, 4080, 2295, 495}, "", buttonLook(kRed, pictures::Commdomban)};
 
-  static constexpr Point placeInHand(int slot) { return {240 + 1680 * ((slot - 1) % 7), slot <= 7 ? 5520 : 6960}; }
+  static constexpr Point placeInHand(int slot) {
+    return {240 + 1680 * ((slot - 1) % 7), slot <= 7 ? 5520 : 6960};
+  }
 };
 // clang-format on
 

@@ -53,10 +53,12 @@ struct Screen : Frame {
   Board FRPEDMAH{*this};
   // The neighbours of the first and of the last cell have no tile.
   Button before{*this, {"Commah", 0}, {480, 360, 855, 495}, "", {.back = kGroundAtRest, .visible = false}};
-  Button behind{*this, {"Commah", kCells + 1}, {480, 360, 855, 495}, "", {.back = kGroundAtRest, .visible = false}};
+  Button behind{*this, {"Commah", kCells + 1}, {480, 360, 855, 495}, "",
+                {.back = kGroundAtRest, .visible = false}};
   Button ELPEDMAH{*this, "ELPEDMAH", {3240, 6360, 2535, 375}, "", buttonLook(kRed, pictures::ELPEDMAH)};
   Button CERPEDMAH{*this, "CERPEDMAH", {3240, 6720, 2535, 375}, "", buttonLook(kBlue, pictures::CERPEDMAH)};
-  Button ALTRAPARTITAMAH{*this, "ALTRAPARTITAMAH", {8880, 6960, 1815, 495}, "ALTRA PARTITA", buttonLook(0xD0D000)};
+  Button ALTRAPARTITAMAH{*this, "ALTRAPARTITAMAH", {8880, 6960, 1815, 495}, "ALTRA PARTITA",
+                         buttonLook(0xD0D000)};
   Button Command17{*this, "Command17", {8880, 7440, 1815, 495}, "EXIT", buttonLook(kGreen)};
   Bench FrameBANMAH{*this};
   // Board and bench begin a little under the title.

@@ -40,7 +40,8 @@ struct Combinations : Frame {
   explicit Combinations(Control& parent)
       : Frame(parent, "Framecomb", {7920, 1560, 3375, 2895}, groupLook(), "COMBINAZIONI") {}
 
-  PictureBox Pictcompok{*this, "Pictcompok", {570, 510, 2250, 2055}, {.back = kBlue, .picture = pictures::Pictcompok}};
+  PictureBox Pictcompok{*this, "Pictcompok", {570, 510, 2250, 2055},
+                        {.back = kBlue, .picture = pictures::Pictcompok}};
 };
 
 struct Options : Frame {
@@ -57,7 +58,9 @@ struct Options : Frame {
   Counting counting() const { return Framepun.Op1.Value == 1 ? Counting::ByHand : Counting::ByClass; }
 };
 
-constexpr Look cardLook(bool visible) { return {.back = kBlack, .border = Border::Single, .visible = visible}; }
+constexpr Look cardLook(bool visible) {
+  return {.back = kBlack, .border = Border::Single, .visible = visible};
+}
 constexpr Look frameLook() { return {.back = kAtRest, .border = Border::Etched}; }
 constexpr Box kCardInFrame{360, 360, 1080, 1415};
 constexpr int leftOf(int position) { return 1560 + 1800 * position; }
@@ -79,10 +82,12 @@ struct ComputerCard : Frame {
 
 struct ScoreBoard : PictureBox {
   explicit ScoreBoard(Control& parent)
-      : PictureBox(parent, "Picture5", {8100, 3060, 2475, 1215}, {.back = kWhite, .picture = pictures::Picture5}) {}
+      : PictureBox(parent, "Picture5", {8100, 3060, 2475, 1215},
+                   {.back = kWhite, .picture = pictures::Picture5}) {}
 
   Label result{*this, "result", {0, 0, 1510, 310}, "",
-               {.back = kYellow, .fore = kRed, .font = {.bold = true}, .border = Border::Single, .visible = false}};
+               {.back = kYellow, .fore = kRed, .font = {.bold = true}, .border = Border::Single,
+                .visible = false}};
   Label comp1{*this, "comp1", {1680, 410, 615, 255}, "", {.back = kWhite, .font = {.bold = true}}};
   Label hum1{*this, "hum1", {1680, 840, 615, 255}, "", {.back = kWhite, .font = {.bold = true}}};
 };
@@ -91,7 +96,8 @@ struct Screen : Frame {
   explicit Screen(Form& form) : Frame(form, "Frame2BIS", {0, 0, 12120, 8655}, screenLook(kWhite)) {}
 
   ControlArray<PlayerCard, 0, kHandSize - 1> playerCards{[this](int i) { return PlayerCard{*this, i}; }};
-  ControlArray<ComputerCard, 0, kHandSize - 1> computerCards{[this](int i) { return ComputerCard{*this, i}; }};
+  ControlArray<ComputerCard, 0, kHandSize - 1> computerCards{
+      [this](int i) { return ComputerCard{*this, i}; }};
   // By slot of the pack; they are never seen.
   ControlArray<PictureBox, kHandSize, kComputerSlot - 1> replacements{[this](int slot) {
     return PictureBox{*this, {"Pictt", slot}, unseen(slot), cardLook(false)}; }};
@@ -104,7 +110,9 @@ struct Screen : Frame {
   Button Command55{*this, "Command55", {10800, 5880, 975, 495}, "EXIT", buttonLook(0xFFC0C0)};
   Button Command15{*this, "Command15", {10800, 6360, 975, 495}, "INIZIO", buttonLook(0x80FF80)};
 
-  static constexpr Look resultLook() { return {.back = kRed, .fore = kYellow, .font = {.points = 18, .bold = true}}; }
+  static constexpr Look resultLook() {
+    return {.back = kRed, .fore = kYellow, .font = {.points = 18, .bold = true}};
+  }
   static constexpr Box unseen(int slot) { return {leftOf(slot % kHandSize) + 360, 2955, 1080, 1415}; }
 };
 // clang-format on

@@ -46,7 +46,8 @@ struct Entrance : Frame {
   explicit Entrance(Form& form) : Frame(form, "frame6", kFullSize, screenLook(kRed)) {}
 
   Label ramETIC{*this, "ramETIC", kTitleBar, "RAMINO", stripLook(kYellow, kBlue)};
-  PictureBox Picram{*this, "Picram", {2490, 1020, 7020, 2130}, {.back = 0xC0C0C0, .picture = pictures::Picram}};
+  PictureBox Picram{*this, "Picram", {2490, 1020, 7020, 2130},
+                    {.back = 0xC0C0C0, .picture = pictures::Picram}};
   Levels rancentrale{*this};
   Button MENURAM{*this, "MENURAM", {4320, 5160, 3375, 495}, "MENU'", buttonLook(0xFF8080)};
   Button GIOCORAM{*this, "GIOCORAM", {4320, 5640, 3375, 495}, "GIOCO", buttonLook(kYellow)};
@@ -54,7 +55,8 @@ struct Entrance : Frame {
 
 /// Lies about the card in play where that is from the stock.
 struct DrawnCard : Frame {
-  explicit DrawnCard(Control& parent) : Frame(parent, {"Ramfr", kInPlay}, {240, 240, 1095, 1560}, takenLook()) {}
+  explicit DrawnCard(Control& parent)
+      : Frame(parent, {"Ramfr", kInPlay}, {240, 240, 1095, 1560}, takenLook()) {}
 
   PictureBox ramin{*this, {"ramin", kInPlay}, {240, 360, 630, 915}, cardLook(true)};
 };
@@ -78,7 +80,8 @@ struct PlayerCard : Frame {
               {.back = kAtRest, .border = Border::Etched}) {}
 
   PictureBox ramin{*this, {"ramin", name().index}, {240, 480, 630, 915}, cardLook(true)};
-  Button ramCom{*this, {"ramCom", name().index}, {120, 1680, 855, 375}, "", buttonLook(kRed, pictures::rampul1)};
+  Button ramCom{*this, {"ramCom", name().index}, {120, 1680, 855, 375}, "",
+                buttonLook(kRed, pictures::rampul1)};
 };
 
 struct Discards : Frame {
@@ -103,13 +106,15 @@ struct OpenHand : Frame {
 struct ConsideredCard : Frame {
   explicit ConsideredCard(Control& parent) : Frame(parent, "ramcomp", {5040, 0, 1815, 1695}, shownLook()) {}
 
-  Label lcpram{*this, "lcpram", {120, 150, 1575, 255}, "Carta pescata", {.back = 0xC0C0C0, .font = kButtonFont}};
+  Label lcpram{*this, "lcpram", {120, 150, 1575, 255}, "Carta pescata",
+               {.back = 0xC0C0C0, .font = kButtonFont}};
   PictureBox ramin{*this, {"ramin", kConsidered}, {600, 570, 630, 915}, cardLook(false)};
 };
 
 struct Score : PictureBox {
   explicit Score(Control& parent)
-      : PictureBox(parent, "RAMRESULT", {8400, 3480, 2475, 1215}, {.back = kWhite, .picture = pictures::RAMRESULT}) {}
+      : PictureBox(parent, "RAMRESULT", {8400, 3480, 2475, 1215},
+                   {.back = kWhite, .picture = pictures::RAMRESULT}) {}
 
   PictureBox rampar{*this, "rampar", kNames, {.back = kBlack, .picture = pictures::rampar, .visible = false}};
   PictureBox ramvin{*this, "ramvin", kNames, {.back = kBlack, .picture = pictures::ramvin, .visible = false}};
@@ -131,7 +136,8 @@ struct Play : Frame {
   ConsideredCard ramcomp{*this};
   Button ramturncom{*this, "ramturncom", {4800, 4320, 2415, 375}, "TURNO DEL COMPUTER", buttonLook(0xFF8080)};
   Button ramlas{*this, "ramlas", {4800, 4680, 2415, 375}, "", buttonLook(kBlue, pictures::ramlas)};
-  Button scambiaram{*this, "scambiaram", {10920, 6840, 735, 495}, "", buttonLook(kYellow, pictures::scambiaram)};
+  Button scambiaram{*this, "scambiaram", {10920, 6840, 735, 495}, "",
+                    buttonLook(kYellow, pictures::scambiaram)};
   Button ramesc{*this, "ramesc", {8400, 2280, 2475, 495}, "ESCI", buttonLook(0xFFC0C0)};
   Button ALTRORAM{*this, "ALTRORAM", {8400, 2760, 2475, 495}, "ALTRA PARTITA", buttonLook(0x00E0E0)};
   Button Continuaramino{*this, "Continuaramino", {8400, 4920, 2475, 375}, "CONTINUA",

@@ -33,7 +33,8 @@ struct Summary : Frame {
 
   Button Command4{*this, "Command4", {1800, 840, 2535, 735}, "", buttonLook(kRed, pictures::CONTPOK1)};
   Button Command7{*this, "Command7", {4680, 840, 2535, 735}, "", buttonLook(kWhite, pictures::SALVPOK1)};
-  Label Label7{*this, "Label7", {2760, 2400, 1575, 375}, " Punteggio", stripLook(kYellow, kBlue, Align::Left)};
+  Label Label7{*this, "Label7", {2760, 2400, 1575, 375}, " Punteggio",
+               stripLook(kYellow, kBlue, Align::Left)};
   Label Label5{*this, "Label5", {4320, 2400, 1935, 375}, "", stripLook(kYellow, kBlue)};
   Label Label8{*this, "Label8", {2760, 2760, 1575, 375}, " Saldo", stripLook(kRed, 0xFFFF80, Align::Left)};
   Label Label6{*this, "Label6", {4320, 2760, 1935, 375}, "", stripLook(kRed, 0xFFFF80)};
@@ -53,7 +54,9 @@ struct MenuScreen : Frame {
   Summary Framecen{*this};
 };
 
-constexpr Look cardLook(bool visible) { return {.back = kBlack, .border = Border::Single, .visible = visible}; }
+constexpr Look cardLook(bool visible) {
+  return {.back = kBlack, .border = Border::Single, .visible = visible};
+}
 
 /// A card of the hand, on the ground that shows its mark or its group.
 struct CardFrame : Frame {
@@ -83,7 +86,8 @@ struct TableScreen : Frame {
 
   ControlArray<CardFrame, 0, kHandSize - 1> Frame1{[this](int i) { return CardFrame{*this, i}; }};
   ControlArray<PictureBox, kHandSize, kSlots - 1> replacements{[this](int slot) {
-    return PictureBox{*this, {"Pict", slot}, {1920 + 1800 * (slot - kHandSize), 1680, 1080, 1415}, cardLook(false)}; }};
+    return PictureBox{*this, {"Pict", slot}, {1920 + 1800 * (slot - kHandSize), 1680, 1080, 1415},
+                      cardLook(false)}; }};
   Button Command1{*this, "Command1", {1680, 5280, 2535, 615}, "NUOVA MANO", buttonLook(0xFF8000)};
   Button Command3{*this, "Command3", {1680, 5880, 2535, 615}, "CAMBIA CARTE", buttonLook(0xFFFF80)};
   Button Command5{*this, "Command5", {10200, 7440, 1335, 495}, "TERMINA", buttonLook(0xFFC0C0)};
