@@ -2,13 +2,13 @@
 
 #include <benchmark/benchmark.h>
 
-#include <cmath>
 #include <random>
 #include <string>
 
 #include "bench_host.hpp"
-#include "desktop/cairo_painter.hpp"
+#include "desktop/cairo_canvas.hpp"
 #include "room/room.hpp"
+#include "toolkit/view.hpp"
 
 namespace tombolario {
 namespace {
@@ -31,15 +31,16 @@ struct Played {
 void repaint(benchmark::State& state, std::initializer_list<const char*> way) {
   Played played;
   for (const char* name : way) played.click(name);
-  const double scale = static_cast<double>(state.range(0));
-  const Owned<cairo_surface_t> surface(
-      cairo_image_surface_create(CAIRO_FORMAT_RGB24, static_cast<int>(std::lround(792 * scale)),
-                                 static_cast<int>(std::lround(573 * scale))));
-  PainterCache cache;
+  const int width = 792 * static_cast<int>(state.range(0));
+  const int height = 573 * static_cast<int>(state.range(0));
+  CairoFonts fonts;
+  CairoCanvas canvas(Owned<cairo_surface_t>(cairo_image_surface_create(CAIRO_FORMAT_RGB24, width, height)),
+                     fonts);
+  View view(played.form);
+  view.fit(width, height);
   for ([[maybe_unused]] auto frame : state) {
-    CairoPainter painter(surface.get(), scale, cache);
-    played.form.repaint(painter);
-    cairo_surface_flush(surface.get());
+    view.paint(canvas);
+    cairo_surface_flush(canvas.surface());
   }
 }
 

@@ -6,7 +6,7 @@
 #include <string>
 #include <vector>
 
-#include "null_painter.hpp"
+#include "null_canvas.hpp"
 #include "session.hpp"
 
 namespace tombolario {
@@ -112,13 +112,11 @@ TEST(Catalogue, HoldsEveryPictureAtItsSizeAndNoOther) {
 
 /// Every text that a picture draws, in its order.
 std::vector<std::string> textsOf(const PictureId& picture) {
-  struct Reader : NullPainter {
-    void text(const Rect&, std::string_view text, const Font&, Rgb, Align) override {
-      texts.emplace_back(text);
-    }
+  struct Reader : NullCanvas {
+    void text(std::string_view text, const Typeface&, Vec, Rgb) override { texts.emplace_back(text); }
     std::vector<std::string> texts;
   } reader;
-  picture.draw(reader);
+  drawAlone(picture, reader, 1);
   return reader.texts;
 }
 

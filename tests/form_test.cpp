@@ -4,8 +4,9 @@
 
 #include <string>
 
-#include "null_painter.hpp"
+#include "null_canvas.hpp"
 #include "toolkit/controls.hpp"
+#include "toolkit/view.hpp"
 
 namespace tombolario {
 namespace {
@@ -211,10 +212,11 @@ TEST_F(FormTest, OptionsOfOneFrameExcludeEachOther) {
 }
 
 TEST_F(FormTest, OnlyAChangeAsksForDrawing) {
-  NullPainter painter;
+  NullCanvas canvas;
+  View view(form);
   const auto drawn = [&] {
     const bool needed = form.needsDrawing();
-    form.repaint(painter);
+    view.paint(canvas);
     return needed;
   };
   drawn();

@@ -1,9 +1,9 @@
 #include <sys/stat.h>
 
-#include "canvas.hpp"
 #include "driver/cairo_camera.hpp"
 #include "pictures/catalogue.hpp"
 #include "session.hpp"
+#include "sheet.hpp"
 #include "toolkit/caption.hpp"
 #include "toolkit/controls.hpp"
 
@@ -14,9 +14,9 @@ constexpr Size kWindow{792, 573};
 
 constexpr double kScales[] = {0.4, 1, 1.25, 1.5, 2, 3.3};
 
-TEST(CairoPainter, UprightEdgesStaySharpAtEveryScale) {
+TEST(Painter, UprightEdgesStaySharpAtEveryScale) {
   for (const double scale : kScales) {
-    Canvas canvas({100, 100}, scale);
+    Sheet canvas({100, 100}, scale);
     canvas.painter.fillRect({0, 0, 100, 100}, kWhite);
     canvas.painter.enter({7.3, 9.1, 60.7, 71.9});
     canvas.painter.fillRect({-10, -10, 43.7, 200}, kRed);
@@ -26,8 +26,8 @@ TEST(CairoPainter, UprightEdgesStaySharpAtEveryScale) {
   }
 }
 
-TEST(CairoPainter, ClipsAndMovesTheOriginUntilLeft) {
-  Canvas canvas({20, 20}, 1);
+TEST(Painter, ClipsAndMovesTheOriginUntilLeft) {
+  Sheet canvas({20, 20}, 1);
   canvas.painter.fillRect({0, 0, 20, 20}, kWhite);
   canvas.painter.enter({5, 5, 10, 10});
   canvas.painter.enter({5, 0, 10, 10});
@@ -43,25 +43,25 @@ TEST(CairoPainter, ClipsAndMovesTheOriginUntilLeft) {
   EXPECT_EQ(canvas.pixel(0, 19), kBlue);
 }
 
-TEST(CairoPainter, TextGrowsWithTheScaleAlone) {
+TEST(Painter, TextGrowsWithTheScaleAlone) {
   const Font font{.face = Face::Heavy, .points = 12};
-  Canvas small(kWindow, 1);
+  Sheet small(kWindow, 1);
   const double width = small.painter.textWidth("CREDITO INSUFFICIENTE", font);
   EXPECT_GT(width, 100);
   for (const double scale : kScales) {
-    Canvas canvas(kWindow, scale);
+    Sheet canvas(kWindow, scale);
     EXPECT_NEAR(canvas.painter.textWidth("CREDITO INSUFFICIENTE", font), width, width * 0.02) << scale;
     const Font fitting = fittingFont(canvas.painter, "CREDITO INSUFFICIENTE", font, 80);
     EXPECT_LE(canvas.painter.textWidth("CREDITO INSUFFICIENTE", fitting), 80.5) << scale;
   }
 }
 
-TEST(CairoPainter, APictureIsDrawnOnceAScaleAndLooksAsDrawnDirectly) {
+TEST(Painter, APictureIsDrawnOnceAScaleAndLooksAsDrawnDirectly) {
   for (const double scale : {1.0, 1.5, 2.0}) {
     const PictureId joker(pictures::Picture1, 52);
-    Canvas direct({70, 93}, scale);
+    Sheet direct({70, 93}, scale);
     joker.draw(direct.painter);
-    Canvas cached({70, 93}, scale);
+    Sheet cached({70, 93}, scale);
     cached.painter.picture(joker, {0, 0}, false);
     for (int y = 0; y < direct.height(); ++y) {
       for (int x = 0; x < direct.width(); ++x)
@@ -72,7 +72,7 @@ TEST(CairoPainter, APictureIsDrawnOnceAScaleAndLooksAsDrawnDirectly) {
 
 /// How many lines of text lie below each other in a captioned box, none of it near its sides.
 int linesSeen(const char* caption, Size size) {
-  Canvas canvas(size, 2);
+  Sheet canvas(size, 2);
   const Rect box{0, 0, static_cast<double>(size.width), static_cast<double>(size.height)};
   canvas.painter.fillRect(box, kWhite);
   drawCaption(canvas.painter, box, caption, {.points = 9.75, .bold = true}, kBlack, Align::Centre, false);
@@ -104,7 +104,7 @@ TEST(Buttons, OnlyThatOfAPictureFadesWithItsGroundWhereItIsDisabled) {
     Form form("Form1", {0, 0, 3000, 750}, kBlack, "");
     Button button(form, "button", {0, 0, 3000, 750}, "", {.back = kRed, .picture = picture});
     button.Enabled = enabled;
-    Canvas canvas({200, 50}, 1);
+    Sheet canvas({200, 50}, 1);
     form.repaint(canvas.painter);
     return canvas.pixel(8, 8);
   };

@@ -3,11 +3,11 @@
 #include <string>
 #include <vector>
 
-#include "canvas.hpp"
 #include "pictures/catalogue.hpp"
 #include "pieces/domino_set.hpp"
 #include "pieces/pay_tables.hpp"
 #include "session.hpp"
+#include "sheet.hpp"
 
 namespace tombolario {
 namespace {
@@ -16,7 +16,7 @@ using Pixels = std::vector<Rgb>;
 
 /// The picture at its own size, row by row.
 Pixels drawn(const PictureId& picture) {
-  Canvas canvas(picture.size(), 1);
+  Sheet canvas(picture.size(), 1);
   picture.draw(canvas.painter);
   Pixels pixels;
   for (int y = 0; y < canvas.height(); ++y) {
@@ -39,7 +39,7 @@ TEST(Pictures, AreNeverEmptyAndStayInTheirBox) {
     const auto pixels = drawn(picture);
     EXPECT_GT(std::set<Rgb>(pixels.begin(), pixels.end()).size(), 1U) << picture.name();
     const auto [width, height] = picture.size();
-    Canvas canvas({width + 12, height + 12}, 1.5);
+    Sheet canvas({width + 12, height + 12}, 1.5);
     canvas.painter.fillRect({0, 0, width + 12.0, height + 12.0}, kBeyond);
     picture.draw(canvas.painter);
     for (int y = 0; y < canvas.height(); ++y) {
@@ -84,7 +84,7 @@ TEST(Pictures, TheirTextKeepsOffTheirEdge) {
   for (const double scale : {1.0, 1.25, 1.5, 2.0, 3.3}) {
     for (const PictureId& picture : allPictures()) {
       if (!flat.contains(std::string(picture.store().name))) continue;
-      Canvas canvas(picture.size(), scale);
+      Sheet canvas(picture.size(), scale);
       picture.draw(canvas.painter);
       std::set<Rgb> edge;
       for (int x = 0; x < canvas.width(); ++x)
@@ -164,7 +164,7 @@ TEST(Pictures, ShowTheirGroundAndInk) {
                                {"CERPEDMAH", {kBlue, kWhite}},
                                {"FINECA", {kRed, kWhite}}};
   for (const auto& [name, colours] : told) {
-    Canvas canvas(pictures::find(name).size(), 2);
+    Sheet canvas(pictures::find(name).size(), 2);
     pictures::find(name).draw(canvas.painter);
     for (const Rgb colour : colours) {
       int found = 0;
@@ -181,7 +181,7 @@ TEST(Pictures, TheFlagsAreToldApartAndStandOnTheirTiles) {
   constexpr Size kFlag{32, 20};
   const std::vector<const char*> flags{"spagnadom", "brasiledom",    "giapponedom", "usadom",
                                        "sveziadom", "portogallodom", "danimarcadom"};
-  const auto differing = [&](const Canvas& a, Vec from, const Canvas& b) {
+  const auto differing = [&](const Sheet& a, Vec from, const Sheet& b) {
     int count = 0;
     for (int y = 0; y < kFlag.height; ++y) {
       for (int x = 0; x < kFlag.width; ++x) {
@@ -191,20 +191,20 @@ TEST(Pictures, TheFlagsAreToldApartAndStandOnTheirTiles) {
     return count;
   };
   for (int i = 0; i < 7; ++i) {
-    Canvas one(kFlag, 1);
+    Sheet one(kFlag, 1);
     pictures::find(flags[static_cast<std::size_t>(i)]).draw(one.painter);
     for (int j = 0; j < i; ++j) {
-      Canvas other(kFlag, 1);
+      Sheet other(kFlag, 1);
       pictures::find(flags[static_cast<std::size_t>(j)]).draw(other.painter);
       EXPECT_GT(differing(one, {0, 0}, other), 300) << flags[static_cast<std::size_t>(i)];
     }
   }
   for (int face = 0; face < 56; ++face) {
-    Canvas tile({92, 52}, 1);
+    Sheet tile({92, 52}, 1);
     PictureId(pictures::dominob, face).draw(tile.painter);
     const auto& [first, second] = kFaceNumbers[face];
     for (const auto& [number, place] : {std::pair(first, Vec{7, 13}), std::pair(second, Vec{53, 13})}) {
-      Canvas flag(kFlag, 1);
+      Sheet flag(kFlag, 1);
       pictures::find(flags[static_cast<std::size_t>(number)]).draw(flag.painter);
       EXPECT_EQ(differing(tile, place, flag), 0) << face;
     }
@@ -250,10 +250,10 @@ TEST(Pictures, ALitRowLiesRightOnItsRowOfThePayTable) {
     const int k = test % 11;
     const int step = test / 11;
     const double scale = 1 + 0.37 * step;
-    Canvas table({156, 191}, scale);
+    Sheet table({156, 191}, scale);
     pictures::find("Pictcomvidpok").draw(table.painter);
     const PictureId row(pictures::segn, k);
-    Canvas lit({156, 191}, scale);
+    Sheet lit({156, 191}, scale);
     lit.painter.picture(row, {0, kPayTable[k].top / 15.0}, false);
     const int top = static_cast<int>(std::lround(kPayTable[k].top / 15.0 * scale));
     int ink = 0;

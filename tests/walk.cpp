@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <cmath>
 
-#include "null_painter.hpp"
+#include "null_canvas.hpp"
 
 namespace tombolario {
 
@@ -81,8 +81,8 @@ void Walk::useScrollBar() {
 /// The window has another size, and is drawn.
 void Walk::resize() {
   view_.fit(300 + pick(3000), 200 + pick(2000));
-  NullPainter painter;
-  form_.repaint(painter);
+  NullCanvas canvas;
+  view_.paint(canvas);
   require(!form_.needsDrawing(), "drawing changes what is drawn");
 }
 

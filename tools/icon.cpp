@@ -4,8 +4,9 @@
 
 #include <cstdio>
 
-#include "desktop/cairo_painter.hpp"
+#include "desktop/cairo_canvas.hpp"
 #include "pictures/icon.hpp"
+#include "toolkit/painter.hpp"
 
 int main(int argc, char** argv) {
   using namespace tombolario;
@@ -13,14 +14,13 @@ int main(int argc, char** argv) {
     std::fputs("usage: icon FILE\n", stderr);
     return 2;
   }
-  const Owned<cairo_surface_t> surface(
-      cairo_svg_surface_create(argv[1], pictures::kIconSide, pictures::kIconSide));
+  Owned<cairo_surface_t> surface(cairo_svg_surface_create(argv[1], pictures::kIconSide, pictures::kIconSide));
   cairo_svg_surface_set_document_unit(surface.get(), CAIRO_SVG_UNIT_PX);
-  PainterCache cache;
-  {
-    CairoPainter painter(surface.get(), 1, cache);
-    pictures::drawIcon(painter);
-  }
-  cairo_surface_finish(surface.get());
-  return cairo_surface_status(surface.get()) == CAIRO_STATUS_SUCCESS ? 0 : 1;
+  CairoFonts fonts;
+  CairoCanvas canvas(std::move(surface), fonts);
+  PictureCache pictures;
+  Painter painter(canvas, 1, pictures);
+  pictures::drawIcon(painter);
+  cairo_surface_finish(canvas.surface());
+  return cairo_surface_status(canvas.surface()) == CAIRO_STATUS_SUCCESS ? 0 : 1;
 }

@@ -74,7 +74,7 @@ void Chain::giveUp(UniformSource& uniform) {
   if (phase_ != Phase::InLevel) return;
   phase_ = Phase::Idle;
   mayStore_ = hasLevel_ = false;
-  livcat = manicat = 0;
+  puntcat = livcat = manicat = 0;
   avviocatena(uniform);
 }
 

@@ -4,6 +4,7 @@
 #include <cstdlib>
 #include <string>
 #include <string_view>
+#include <utility>
 
 #include "pictures/icon.hpp"
 
@@ -81,7 +82,6 @@ CannotOpen noWindow() {
 
 /// What was drawn, to be read as long as that lives.
 Sdl<SDL_Surface> surfaceOf(cairo_surface_t* drawn) {
-  cairo_surface_flush(drawn);
   return Sdl<SDL_Surface>(SDL_CreateRGBSurfaceWithFormatFrom(
       cairo_image_surface_get_data(drawn), cairo_image_surface_get_width(drawn),
       cairo_image_surface_get_height(drawn), 32, cairo_image_surface_get_stride(drawn),
@@ -89,9 +89,10 @@ Sdl<SDL_Surface> surfaceOf(cairo_surface_t* drawn) {
 }
 
 /// A cursor drawn at that scale, its hot spot with it.
-Sdl<SDL_Cursor> makeCursor(const PictureId& picture, double scale, PainterCache& cache) {
-  cairo_surface_t* drawn = CairoPainter::drawn(picture, scale, cache);
-  const Sdl<SDL_Surface> surface = surfaceOf(drawn);
+Sdl<SDL_Cursor> makeCursor(const PictureId& picture, double scale, CairoFonts& fonts) {
+  CairoCanvas canvas(deviceSize(picture.size(), scale), fonts);
+  drawAlone(picture, canvas, scale);
+  const Sdl<SDL_Surface> surface = surfaceOf(canvas.surface());
   if (surface == nullptr) return nullptr;
   const Vec hot = picture.store().hotSpot;
   const auto pixel = [scale](double at, int end) {
@@ -187,14 +188,8 @@ void Window::fit() {
   int mouseWidth = 0;
   SDL_GetWindowSize(window_, &mouseWidth, nullptr);
   density_ = mouseWidth > 0 ? static_cast<double>(width) / mouseWidth : 1;
-  const double before = view_.scale();
   view_.fit(width, height);
-  if (view_.scale() != before) {
-    SDL_SetCursor(SDL_GetDefaultCursor());
-    cursor_ = {};
-    cursors_.clear();
-  }
-  form_.redraw();
+  cursors_.clear();
 }
 
 void Window::draw() {
@@ -213,33 +208,30 @@ void Window::draw() {
 }
 
 void Window::paintOn(SDL_Surface& surface) {
-  const Owned<cairo_surface_t> canvas(cairo_image_surface_create_for_data(
+  Owned<cairo_surface_t> pixels(cairo_image_surface_create_for_data(
       static_cast<unsigned char*>(surface.pixels), CAIRO_FORMAT_RGB24, surface.w, surface.h, surface.pitch));
-  if (view_.hasMargins()) SDL_FillRect(&surface, nullptr, form_.inSight().BackColor.get().rgb());
-  cairo_surface_set_device_offset(canvas.get(), view_.marginX(), view_.marginY());
-  CairoPainter painter(canvas.get(), view_.scale(), cache_);
-  form_.repaint(painter);
-  cairo_surface_flush(canvas.get());
+  CairoCanvas canvas(std::move(pixels), fonts_);
+  view_.paint(canvas);
 }
 
 void Window::showIcon() {
-  const Owned<cairo_surface_t> drawn(
-      cairo_image_surface_create(CAIRO_FORMAT_ARGB32, pictures::kIconSide, pictures::kIconSide));
-  CairoPainter painter(drawn.get(), 1, cache_);
+  CairoCanvas canvas({pictures::kIconSide, pictures::kIconSide}, fonts_);
+  PictureCache pictures;
+  Painter painter(canvas, 1, pictures);
   pictures::drawIcon(painter);
-  if (const Sdl<SDL_Surface> icon = surfaceOf(drawn.get())) SDL_SetWindowIcon(window_, icon.get());
+  if (const Sdl<SDL_Surface> icon = surfaceOf(canvas.surface())) SDL_SetWindowIcon(window_, icon.get());
 }
 
 void Window::showCursor() {
-  const PictureId wanted = form_.cursor();
-  if (wanted == std::exchange(cursor_, wanted)) return;
-  if (!wanted) {
-    SDL_SetCursor(SDL_GetDefaultCursor());
-    return;
+  const auto wanted = view_.newCursor();
+  if (!wanted) return;
+  SDL_Cursor* cursor = nullptr;
+  if (*wanted) {
+    Sdl<SDL_Cursor>& made = cursors_[&wanted->store()];
+    if (made == nullptr) made = makeCursor(*wanted, view_.scale() / density_, fonts_);
+    cursor = made.get();
   }
-  Sdl<SDL_Cursor>& cursor = cursors_[&wanted.store()];
-  if (cursor == nullptr) cursor = makeCursor(wanted, view_.scale() / density_, cache_);
-  SDL_SetCursor(cursor != nullptr ? cursor.get() : SDL_GetDefaultCursor());
+  SDL_SetCursor(cursor != nullptr ? cursor : SDL_GetDefaultCursor());
 }
 
 }  // namespace tombolario

@@ -6,7 +6,7 @@
 #include <memory>
 #include <stdexcept>
 
-#include "desktop/cairo_painter.hpp"
+#include "desktop/cairo_canvas.hpp"
 #include "host/clock_source.hpp"
 #include "host/data_directory.hpp"
 #include "room/room.hpp"
@@ -67,9 +67,8 @@ class Window {
 
   Form& form_;
   SDL_Window* window_ = nullptr;  // left to the end of the process
-  PainterCache cache_;
+  CairoFonts fonts_;
   std::map<const PictureStore*, Sdl<SDL_Cursor>> cursors_;  // at the present scale
-  PictureId cursor_;
   View view_;
   double density_ = 1;  // device pixels to a unit of the mouse
   bool open_ = true;

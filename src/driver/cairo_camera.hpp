@@ -2,7 +2,7 @@
 
 #include <string>
 
-#include "desktop/cairo_painter.hpp"
+#include "desktop/cairo_canvas.hpp"
 #include "driver/camera.hpp"
 
 namespace tombolario {
@@ -14,7 +14,8 @@ class CairoCamera : public Camera {
   bool shoot(const PictureId& picture, const std::string& file, double scale) override;
 
  private:
-  PainterCache cache_;
+  CairoFonts fonts_;
+  PictureCache pictures_;
 };
 
 }  // namespace tombolario

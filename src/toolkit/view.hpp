@@ -1,6 +1,9 @@
 #pragma once
 
+#include <optional>
+
 #include "toolkit/form.hpp"
+#include "toolkit/painter.hpp"
 
 namespace tombolario {
 
@@ -10,26 +13,34 @@ class View {
  public:
   explicit View(Form& form) : form_(form) {}
 
-  /// The window has that size now.
+  /// The window has that size now, and shows neither the room nor its cursor yet.
   void fit(int width, int height);
   /// Device pixels to a pixel of the room.
   double scale() const { return scale_; }
   int marginX() const { return marginX_; }  ///< left of the room
   int marginY() const { return marginY_; }  ///< above it
-  /// Whether anything of the window lies beside the room, if only a pixel.
-  bool hasMargins() const { return hasMargins_; }
 
   /// The mouse is there, maybe outside the room. A place that it is at already is no move: a window tells the
   /// place with every press and release, too.
   void mouseAt(double x, double y);
+  /// The cursor to show, if it is not the one that was asked for last; no picture is the system's arrow.
+  std::optional<PictureId> newCursor();
+
+  /// Draws the room and what is around it, over all of the window.
+  void paint(Canvas& canvas);
+  /// What was drawn is lost, the pictures that are kept with it.
+  void forget();
 
  private:
   Form& form_;
+  PictureCache pictures_;
+  std::optional<PictureId> cursor_;
+  Size size_;
   double scale_ = 1;
   int marginX_ = 0;
   int marginY_ = 0;
-  bool hasMargins_ = false;
-  Point mouse_{-1, -1};  // in the room
+  bool hasMargins_ = false;  // if only of a pixel
+  Point mouse_{-1, -1};      // in the room
 };
 
 }  // namespace tombolario

@@ -1,5 +1,5 @@
 // What the page's C++ calls of the browser: canvases, the cursor, the stored files and links. The functions
-// are declared, and told about, in canvas.hpp, page.cpp and browser.cpp.
+// are declared in browser_canvas.hpp, page.cpp and browser.cpp.
 mergeInto(LibraryManager.library, {
   // The contexts by their handles; the page's own canvas is 0.
   $contexts: [],
@@ -36,8 +36,8 @@ mergeInto(LibraryManager.library, {
   canvas_free: function (canvas) {
     contexts[canvas] = null;
   },
-  canvas_begin__deps: ['$contextOf'],
-  canvas_begin: function (canvas, x, y) {
+  canvas_start_at__deps: ['$contextOf'],
+  canvas_start_at: function (canvas, x, y) {
     const context = contextOf(canvas);
     context.setTransform(1, 0, 0, 1, x, y);
     context.lineJoin = 'round';

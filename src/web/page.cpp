@@ -3,13 +3,13 @@
 #include <emscripten.h>
 
 #include <algorithm>
-#include <utility>
+
+#include "web/browser_canvas.hpp"
 
 namespace tombolario {
 
 namespace {
 
-constexpr int kPageCanvas = 0;
 /// Browsers show no cursor that is larger, in units of the style sheets.
 constexpr double kLargestCursor = 128;
 
@@ -23,13 +23,8 @@ void cursor_reset();
 
 void Page::fit(int width, int height, double density) {
   view_.fit(width, height);
-  width_ = width;
-  height_ = height;
   density_ = density;
-  cursor_ = {};
-  cursor_reset();
   showCursor();
-  form_.redraw();
 }
 
 void Page::pointer(double x, double y, unsigned buttons) {
@@ -51,32 +46,24 @@ void Page::lose() {
 }
 
 void Page::draw() {
-  const int x = view_.marginX();
-  const int y = view_.marginY();
-  CanvasPainter painter(kPageCanvas, {double(x), double(y)}, view_.scale(), cache_);
-  if (view_.hasMargins())
-    canvas_fill_rect(kPageCanvas, -x, -y, width_, height_, form_.inSight().BackColor.get().rgb());
-  form_.repaint(painter);
-}
-
-void Page::forget() {
-  cache_ = {};
-  form_.redraw();
+  BrowserCanvas canvas;
+  view_.paint(canvas);
 }
 
 void Page::showCursor() {
-  const PictureId wanted = form_.cursor();
-  if (wanted == std::exchange(cursor_, wanted)) return;
-  if (!wanted) {
+  const auto wanted = view_.newCursor();
+  if (!wanted) return;
+  if (!*wanted) {
     cursor_reset();
     return;
   }
-  const Size size = wanted.size();
+  const Size size = wanted->size();
   const double largest = kLargestCursor * density_ / std::max(size.width, size.height);
   const double scale = std::min(view_.scale(), largest);
-  const Vec hot = wanted.store().hotSpot;
-  cursor_show(CanvasPainter::drawn(wanted, scale, cache_).plain.handle(), density_,
-              (hot.x + 0.5) * scale / density_, (hot.y + 0.5) * scale / density_);
+  const Vec hot = wanted->store().hotSpot;
+  BrowserCanvas canvas(deviceSize(size, scale));
+  drawAlone(*wanted, canvas, scale);
+  cursor_show(canvas.handle(), density_, (hot.x + 0.5) * scale / density_, (hot.y + 0.5) * scale / density_);
 }
 
 // What the script of the page calls.

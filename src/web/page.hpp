@@ -2,7 +2,6 @@
 
 #include "toolkit/form.hpp"
 #include "toolkit/view.hpp"
-#include "web/canvas_painter.hpp"
 
 namespace tombolario {
 
@@ -21,20 +20,16 @@ class Page {
   void lose();
   bool needsDrawing() const { return form_.needsDrawing(); }
   void draw();
-  /// What was drawn is lost, the pictures that are kept with it.
-  void forget();
+  /// What was drawn is lost.
+  void forget() { view_.forget(); }
 
  private:
   void showCursor();
 
   Form& form_;
-  CanvasCache cache_;
   View view_;
-  int width_ = 0;
-  int height_ = 0;
   double density_ = 1;
   unsigned buttons_ = 0;
-  PictureId cursor_;
 };
 
 }  // namespace tombolario

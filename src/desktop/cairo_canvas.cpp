@@ -1,0 +1,134 @@
+#include "desktop/cairo_canvas.hpp"
+
+#include <numbers>
+#include <utility>
+
+namespace tombolario {
+
+CairoFonts::CairoFonts() : context_(pango_font_map_create_context(pango_cairo_font_map_get_default())) {
+  cairo_font_options_t* options = cairo_font_options_create();
+  cairo_font_options_set_antialias(options, CAIRO_ANTIALIAS_GRAY);
+  cairo_font_options_set_hint_style(options, CAIRO_HINT_STYLE_SLIGHT);
+  cairo_font_options_set_hint_metrics(options, CAIRO_HINT_METRICS_OFF);
+  pango_cairo_context_set_font_options(context_.get(), options);
+  cairo_font_options_destroy(options);
+  // Text must grow evenly with the scale, or what fits its box at one would not at another.
+  pango_context_set_round_glyph_positions(context_.get(), FALSE);
+  layout_.reset(pango_layout_new(context_.get()));
+}
+
+PangoLayout* CairoFonts::layout(std::string_view text, const Typeface& face) {
+  // What is measured is drawn next, and laid out once for both.
+  if (face == face_ && text == pango_layout_get_text(layout_.get())) return layout_.get();
+  const Owned<PangoFontDescription> description(pango_font_description_new());
+  pango_font_description_set_family_static(description.get(), face.families);
+  pango_font_description_set_weight(description.get(), static_cast<PangoWeight>(face.weight));
+  pango_font_description_set_absolute_size(description.get(), face.em * PANGO_SCALE);
+  pango_layout_set_font_description(layout_.get(), description.get());
+  pango_layout_set_text(layout_.get(), text.data(), static_cast<int>(text.size()));
+  face_ = face;
+  return layout_.get();
+}
+
+CairoCanvas::CairoCanvas(Owned<cairo_surface_t> surface, CairoFonts& fonts)
+    : surface_(std::move(surface)), cairo_(cairo_create(surface_.get())), fonts_(fonts) {
+  cairo_set_line_join(cairo_.get(), CAIRO_LINE_JOIN_ROUND);
+}
+
+CairoCanvas::CairoCanvas(Size size, CairoFonts& fonts)
+    : CairoCanvas(
+          Owned<cairo_surface_t>(cairo_image_surface_create(CAIRO_FORMAT_ARGB32, size.width, size.height)),
+          fonts) {}
+
+cairo_surface_t* CairoCanvas::surface() const {
+  cairo_surface_flush(surface_.get());
+  return surface_.get();
+}
+
+void CairoCanvas::ink(Rgb colour, double opacity) {
+  cairo_set_source_rgba(cairo_.get(), (colour >> 16 & 0xFF) / 255.0, (colour >> 8 & 0xFF) / 255.0,
+                        (colour & 0xFF) / 255.0, opacity);
+}
+
+void CairoCanvas::trace(std::span<const Vec> points) {
+  for (const Vec& point : points) cairo_line_to(cairo_.get(), point.x, point.y);
+  cairo_close_path(cairo_.get());
+}
+
+void CairoCanvas::startAt(Vec origin) {
+  cairo_identity_matrix(cairo_.get());
+  cairo_translate(cairo_.get(), origin.x, origin.y);
+}
+
+void CairoCanvas::fillRect(const Rect& rect, Rgb colour) {
+  ink(colour);
+  cairo_rectangle(cairo_.get(), rect.x, rect.y, rect.w, rect.h);
+  cairo_fill(cairo_.get());
+}
+
+void CairoCanvas::fillPolygon(std::span<const Vec> points, Rgb colour) {
+  ink(colour);
+  trace(points);
+  cairo_fill(cairo_.get());
+}
+
+void CairoCanvas::strokePolygon(std::span<const Vec> points, Rgb colour, double width) {
+  ink(colour);
+  trace(points);
+  cairo_set_line_width(cairo_.get(), width);
+  cairo_stroke(cairo_.get());
+}
+
+void CairoCanvas::fillEllipse(Vec centre, Vec radii, Rgb colour) {
+  cairo_t* cairo = cairo_.get();
+  ink(colour);
+  cairo_save(cairo);
+  cairo_translate(cairo, centre.x, centre.y);
+  cairo_scale(cairo, radii.x, radii.y);
+  cairo_arc(cairo, 0, 0, 1, 0, 2 * std::numbers::pi);
+  cairo_restore(cairo);
+  cairo_fill(cairo);
+}
+
+void CairoCanvas::line(Vec from, Vec to, Rgb colour, double width) {
+  ink(colour);
+  cairo_move_to(cairo_.get(), from.x, from.y);
+  cairo_line_to(cairo_.get(), to.x, to.y);
+  cairo_set_line_width(cairo_.get(), width);
+  cairo_stroke(cairo_.get());
+}
+
+void CairoCanvas::text(std::string_view text, const Typeface& face, Vec start, Rgb colour) {
+  ink(colour);
+  cairo_move_to(cairo_.get(), start.x, start.y);
+  pango_cairo_show_layout_line(cairo_.get(), pango_layout_get_line_readonly(fonts_.layout(text, face), 0));
+  cairo_new_path(cairo_.get());
+}
+
+double CairoCanvas::textWidth(std::string_view text, const Typeface& face) {
+  int width = 0;
+  pango_layout_get_size(fonts_.layout(text, face), &width, nullptr);
+  return width / double{PANGO_SCALE};
+}
+
+void CairoCanvas::copy(Canvas& from, Vec at) {
+  auto& drawn = static_cast<CairoCanvas&>(from);
+  drawn.cairo_ = nullptr;  // a context takes as much memory as a small picture
+  cairo_set_source_surface(cairo_.get(), drawn.surface_.get(), at.x, at.y);
+  cairo_paint(cairo_.get());
+}
+
+void CairoCanvas::veil(Rgb colour) {
+  ink(colour, 0.5);
+  cairo_set_operator(cairo_.get(), CAIRO_OPERATOR_ATOP);
+  cairo_paint(cairo_.get());
+  cairo_set_operator(cairo_.get(), CAIRO_OPERATOR_OVER);
+}
+
+void CairoCanvas::clip(const Rect& rect) {
+  cairo_save(cairo_.get());
+  cairo_rectangle(cairo_.get(), rect.x, rect.y, rect.w, rect.h);
+  cairo_clip(cairo_.get());
+}
+
+}  // namespace tombolario
