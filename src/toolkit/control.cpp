@@ -1,5 +1,7 @@
 #include "toolkit/control.hpp"
 
+#include <stdexcept>
+
 #include "toolkit/form.hpp"
 
 namespace tombolario {
@@ -28,7 +30,7 @@ Control::Control(Control& parent, Name name, Box box, std::string caption, const
       Top(*this, box.top),
       Width(*this, box.width),
       Height(*this, box.height),
-      form_(parent.form_),
+      form_(made(parent, name).form_),
       parent_(&parent),
       name_(name),
       font_(look.font),
@@ -36,6 +38,12 @@ Control::Control(Control& parent, Name name, Box box, std::string caption, const
       border_(look.border) {
   parent.children_.push_back(this);
   form_.enrol(*this);
+}
+
+/// A member that is declared below its child is still raw memory.
+Control& Control::made(Control& parent, const Name& child) {
+  if (parent.self_ != &parent) throw std::logic_error(child.text() + " is made before its parent");
+  return parent;
 }
 
 Control::Control(Form& self, Name name, Box box, Colour back)

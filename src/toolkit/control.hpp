@@ -123,7 +123,10 @@ class Control {
 
  private:
   bool contains(Point point) const;
+  static Control& made(Control& parent, const Name& child);
 
+  /// Only a control that has been made says that it is itself.
+  const Control* self_ = this;
   Form& form_;
   Control* parent_;
   std::vector<Control*> children_;
