@@ -14,12 +14,9 @@ namespace {
 constexpr std::size_t kMostPictureBytes = std::size_t{32} << 20;
 
 Typeface typefaceOf(const Font& font, double scale) {
-  const bool heavy = font.face == Face::Heavy;
-  return {heavy ? "Roboto,Arial Black,Liberation Sans,sans-serif" : "Liberation Sans,Arial,sans-serif",
-          heavy       ? 900
-          : font.bold ? 700
-                      : 400,
-          font.points * 96 / 72 * scale};
+  const double em = font.points * 96 / 72 * scale;
+  if (font.face == Face::Heavy) return {"Roboto,Arial Black,Liberation Sans,sans-serif", 900, em};
+  return {"Liberation Sans,Arial,sans-serif", font.bold ? 700 : 400, em};
 }
 
 /// The share of the free room of a box that lies left of its text.
