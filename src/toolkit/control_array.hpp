@@ -13,7 +13,7 @@ class ControlArray {
  public:
   /// Makes each control in place by `make(index)`, which returns it by value.
   template <class Make>
-  explicit ControlArray(Make make) : ControlArray(make, std::make_index_sequence<kCount>()) {}
+  explicit ControlArray(Make make) : ControlArray(make, std::make_index_sequence<Last - First + 1>()) {}
 
   Kind& operator[](int index) { return controls_.at(static_cast<std::size_t>(index - First)); }
 
@@ -21,12 +21,10 @@ class ControlArray {
   auto end() { return controls_.end(); }
 
  private:
-  static constexpr std::size_t kCount = Last - First + 1;
-
   template <class Make, std::size_t... I>
   ControlArray(Make& make, std::index_sequence<I...>) : controls_{{make(First + static_cast<int>(I))...}} {}
 
-  std::array<Kind, kCount> controls_;
+  std::array<Kind, Last - First + 1> controls_;
 };
 
 }  // namespace tombolario
