@@ -3,7 +3,7 @@
 root=$(cd -- "$(dirname -- "${BASH_SOURCE[0]}")/.." && pwd)
 program=script/${0##*/}
 
-build_packages=(g++ cmake ninja-build pkg-config libsdl2-dev libcairo2-dev libpango1.0-dev)
+build_packages=(g++ cmake ninja-build pkg-config libsdl2-dev libcairo2-dev libfontconfig-dev)
 font_packages=(fonts-liberation fonts-roboto-unhinted)
 virtual_display_packages=(xvfb xdotool imagemagick)
 page_packages=(emscripten node-acorn cmake ninja-build python3)

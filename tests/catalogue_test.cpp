@@ -163,7 +163,7 @@ TEST(Catalogue, TheCursorsPointWithTheirHotSpots) {
 TEST(Catalogue, TheDriverListsIt) {
   Session room;
   const std::string list = room("pictures");
-  for (const char* line : {"commpr(1) 166x18\n", "\nPicture1(52) 70x93\n", "\nsegn(3) 167x17\n", "\n."}) {
+  for (const char* line : {"commpr(1) 166x18\n", "\nPicture1(52) 70x93\n", "\nsegn(3) 167x20\n", "\n."}) {
     EXPECT_NE(list.find(line), std::string::npos) << line;
   }
 }

@@ -16,8 +16,8 @@ class NullCanvas : public Canvas {
   void line(Vec, Vec, Rgb, double) override {}
   void text(std::string_view, const Typeface&, Vec, Rgb) override {}
   double textWidth(std::string_view, const Typeface&) override { return 0; }
+  double capHeight(const Typeface& face) override { return face.em; }
   void copy(Canvas&, Vec) override {}
-  void veil(Rgb) override {}
   void clip(const Rect&) override {}
   void unclip() override {}
 };

@@ -5,6 +5,7 @@
 #include "session.hpp"
 #include "sheet.hpp"
 #include "toolkit/caption.hpp"
+#include "toolkit/contrast.hpp"
 #include "toolkit/controls.hpp"
 
 namespace tombolario {
@@ -56,13 +57,12 @@ TEST(Painter, TextGrowsWithTheScaleAlone) {
   }
 }
 
-TEST(Painter, APictureIsDrawnOnceAScaleAndLooksAsDrawnDirectly) {
-  for (const double scale : {1.0, 1.5, 2.0}) {
+TEST(Painter, APictureLooksAsDrawnDirectly) {
+  for (const double scale : kScales) {
     const PictureId joker(pictures::Picture1, 52);
-    Sheet direct({70, 93}, scale);
-    joker.draw(direct.painter);
+    const Sheet direct(joker, scale);
     Sheet cached({70, 93}, scale);
-    cached.painter.picture(joker, {0, 0}, false);
+    cached.painter.picture(joker, Vec{});
     for (int y = 0; y < direct.height(); ++y) {
       for (int x = 0; x < direct.width(); ++x)
         ASSERT_EQ(direct.pixel(x, y), cached.pixel(x, y)) << x << ',' << y;
@@ -75,7 +75,7 @@ int linesSeen(const char* caption, Size size) {
   Sheet canvas(size, 2);
   const Rect box{0, 0, static_cast<double>(size.width), static_cast<double>(size.height)};
   canvas.painter.fillRect(box, kWhite);
-  drawCaption(canvas.painter, box, caption, {.points = 9.75, .bold = true}, kBlack, Align::Centre, false);
+  drawCaption(canvas.painter, box, caption, {.points = 9.75, .bold = true}, kBlack, Align::Centre);
   int lines = 0;
   bool inText = false;
   for (int y = 0; y < canvas.height(); ++y) {
@@ -99,18 +99,35 @@ TEST(Captions, BreakAtTheirBlanksWhereTheBoxIsTallEnough) {
   EXPECT_EQ(linesSeen("CAMBIACARTE", {65, 60}), 1);
 }
 
-TEST(Buttons, OnlyThatOfAPictureFadesWithItsGroundWhereItIsDisabled) {
-  const auto ground = [](const PictureId& picture, bool enabled) {
+/// What is out of use stays on its ground and can be read: captions and pictures alike, at every scale.
+TEST(Buttons, AreQuietAndLegibleWhereTheyAreDisabled) {
+  const auto faintest = [](const Look& look, const char* caption, double scale) {
     Form form("Form1", {0, 0, 3000, 750}, kBlack, "");
-    Button button(form, "button", {0, 0, 3000, 750}, "", {.back = kRed, .picture = picture});
-    button.Enabled = enabled;
-    Sheet canvas({200, 50}, 1);
+    Button button(form, "button", {0, 0, 3000, 750}, caption, look);
+    button.Enabled = false;
+    Sheet canvas({200, 50}, scale);
     form.repaint(canvas.painter);
-    return canvas.pixel(8, 8);
+    const Rgb ground = look.picture
+                           ? canvas.pixel(canvas.width() / 2, canvas.height() / 2 - canvas.height() / 7)
+                           : look.back.rgb();
+    EXPECT_EQ(canvas.pixel(canvas.width() / 2, canvas.height() / 8), look.back.rgb());
+    double strongest = 1;
+    for (int y = canvas.height() / 3; y < canvas.height() * 2 / 3; ++y) {
+      for (int x = canvas.width() / 10; x < canvas.width() * 9 / 10; ++x)
+        strongest = std::max(strongest, contrast(canvas.pixel(x, y), ground));
+    }
+    return strongest;
   };
-  EXPECT_EQ(ground(pictures::SALVACAT, true), 0xFF0000U);
-  EXPECT_EQ(ground({}, false), 0xFF0000U);
-  EXPECT_NE(ground(pictures::SALVACAT, false), 0xFF0000U);
+  for (const double scale : {0.63, 1.0, 1.5, 2.0}) {
+    for (const Rgb ground : {0xFF8000U, 0xFF8080U, 0x00FF00U, kBlue, kWhite, kYellow, kBlack, 0x808080U}) {
+      const Look look{.back = ground, .fore = kBlack, .font = {.points = 9.75, .bold = true}};
+      EXPECT_GT(faintest(look, "TURNO DEL COMPUTER", scale), 3) << std::hex << ground << " at " << scale;
+      EXPECT_LT(faintest(look, "TURNO DEL COMPUTER", scale), 5) << std::hex << ground << " at " << scale;
+    }
+    for (const PictureStore* store :
+         {&pictures::SALVACAT, &pictures::CONTPOK2, &pictures::SC1, &pictures::ramlas})
+      EXPECT_GT(faintest({.back = kRed, .picture = *store}, "", scale), 3) << store->name << " at " << scale;
+  }
 }
 
 TEST(CairoCamera, WritesTheWindowAndEachPictureAtTheScale) {

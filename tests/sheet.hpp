@@ -14,6 +14,10 @@ class Sheet {
  public:
   Sheet(Size size, double scale)
       : canvas_(deviceSize(size, scale), fonts_), painter(canvas_, scale, pictures_) {}
+  /// With a picture on all of it.
+  Sheet(const PictureId& picture, double scale) : Sheet(picture.size(), scale) {
+    painter.drawing(picture, {0, 0, double(picture.size().width), double(picture.size().height)});
+  }
 
   Rgb pixel(int x, int y) const {
     std::uint32_t value = 0;

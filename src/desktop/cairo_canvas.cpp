@@ -1,33 +1,101 @@
 #include "desktop/cairo_canvas.hpp"
 
+#include <cairo-ft.h>
+
+#include <algorithm>
 #include <numbers>
+#include <string>
 #include <utility>
 
 namespace tombolario {
 
-CairoFonts::CairoFonts() : context_(pango_font_map_create_context(pango_cairo_font_map_get_default())) {
-  cairo_font_options_t* options = cairo_font_options_create();
-  cairo_font_options_set_antialias(options, CAIRO_ANTIALIAS_GRAY);
-  cairo_font_options_set_hint_style(options, CAIRO_HINT_STYLE_SLIGHT);
-  cairo_font_options_set_hint_metrics(options, CAIRO_HINT_METRICS_OFF);
-  pango_cairo_context_set_font_options(context_.get(), options);
-  cairo_font_options_destroy(options);
-  // Text must grow evenly with the scale, or what fits its box at one would not at another.
-  pango_context_set_round_glyph_positions(context_.get(), FALSE);
-  layout_.reset(pango_layout_new(context_.get()));
+namespace {
+
+/// In pixels: outlines are kept at this size, larger than they are ever seen.
+constexpr double kOutlineEm = 256;
+
+/// What the system has of these families and that weight, as Fontconfig chooses; null if it has no font at
+/// all.
+cairo_font_face_t* chosenFace(const char* families, int weight) {
+  FcPattern* wanted = FcPatternCreate();
+  for (std::string_view left = families; !left.empty();) {
+    const std::string family(left.substr(0, left.find(',')));
+    FcPatternAddString(wanted, FC_FAMILY, reinterpret_cast<const FcChar8*>(family.c_str()));
+    left.remove_prefix(std::min(left.size(), family.size() + 1));
+  }
+  FcPatternAddInteger(wanted, FC_WEIGHT, FcWeightFromOpenType(weight));
+  FcConfigSubstitute(nullptr, wanted, FcMatchPattern);
+  FcDefaultSubstitute(wanted);
+  FcResult result{};
+  FcPattern* chosen = FcFontMatch(nullptr, wanted, &result);
+  FcPatternDestroy(wanted);
+  if (chosen == nullptr) return nullptr;
+  cairo_font_face_t* face = cairo_ft_font_face_create_for_pattern(chosen);
+  FcPatternDestroy(chosen);
+  return face;
 }
 
-PangoLayout* CairoFonts::layout(std::string_view text, const Typeface& face) {
-  // What is measured is drawn next, and laid out once for both.
-  if (face == face_ && text == pango_layout_get_text(layout_.get())) return layout_.get();
-  const Owned<PangoFontDescription> description(pango_font_description_new());
-  pango_font_description_set_family_static(description.get(), face.families);
-  pango_font_description_set_weight(description.get(), static_cast<PangoWeight>(face.weight));
-  pango_font_description_set_absolute_size(description.get(), face.em * PANGO_SCALE);
-  pango_layout_set_font_description(layout_.get(), description.get());
-  pango_layout_set_text(layout_.get(), text.data(), static_cast<int>(text.size()));
-  face_ = face;
-  return layout_.get();
+}  // namespace
+
+CairoFont::CairoFont(const char* families, int weight) {
+  cairo_font_face_t* face = chosenFace(families, weight);
+  if (face == nullptr)
+    face = cairo_toy_font_face_create("", CAIRO_FONT_SLANT_NORMAL, CAIRO_FONT_WEIGHT_NORMAL);
+  cairo_matrix_t toEm;
+  cairo_matrix_t toDevice;
+  cairo_matrix_init_scale(&toEm, kOutlineEm, kOutlineEm);
+  cairo_matrix_init_identity(&toDevice);
+  cairo_font_options_t* options = cairo_font_options_create();
+  cairo_font_options_set_hint_style(options, CAIRO_HINT_STYLE_NONE);
+  cairo_font_options_set_hint_metrics(options, CAIRO_HINT_METRICS_OFF);
+  font_.reset(cairo_scaled_font_create(face, &toEm, &toDevice, options));
+  cairo_font_options_destroy(options);
+  cairo_font_face_destroy(face);
+}
+
+std::vector<CairoFont::Letter> CairoFont::letters(std::string_view text) const {
+  cairo_glyph_t* glyphs = nullptr;
+  int count = 0;
+  cairo_scaled_font_text_to_glyphs(font_.get(), 0, 0, text.data(), static_cast<int>(text.size()), &glyphs,
+                                   &count, nullptr, nullptr, nullptr);
+  std::vector<Letter> letters;
+  for (const cairo_glyph_t& glyph : std::span(glyphs, static_cast<std::size_t>(count))) {
+    letters.push_back({glyph.index, glyph.x / kOutlineEm});
+  }
+  cairo_glyph_free(glyphs);
+  return letters;
+}
+
+double CairoFont::width(std::string_view text) const {
+  cairo_text_extents_t extents{};
+  cairo_scaled_font_text_extents(font_.get(), std::string(text).c_str(), &extents);
+  return extents.x_advance / kOutlineEm;
+}
+
+double CairoFont::capHeight() const {
+  cairo_text_extents_t extents{};
+  cairo_scaled_font_text_extents(font_.get(), "H", &extents);
+  return -extents.y_bearing / kOutlineEm;
+}
+
+void CairoFont::trace(cairo_t* context, unsigned long glyph) {
+  Owned<cairo_path_t>& outline = outlines_[glyph];
+  if (outline == nullptr) {
+    const Owned<cairo_surface_t> nowhere(cairo_recording_surface_create(CAIRO_CONTENT_ALPHA, nullptr));
+    const Owned<cairo_t> pen(cairo_create(nowhere.get()));
+    const cairo_glyph_t letter{glyph, 0, 0};
+    cairo_set_scaled_font(pen.get(), font_.get());
+    cairo_glyph_path(pen.get(), &letter, 1);
+    outline.reset(cairo_copy_path(pen.get()));
+  }
+  cairo_append_path(context, outline.get());
+}
+
+CairoFont& CairoFonts::find(const Typeface& face) {
+  const std::pair<std::string_view, int> key(face.families, face.weight);
+  const auto found = fonts_.find(key);
+  return found != fonts_.end() ? found->second
+                               : fonts_.try_emplace(key, face.families, face.weight).first->second;
 }
 
 CairoCanvas::CairoCanvas(Owned<cairo_surface_t> surface, CairoFonts& fonts)
@@ -45,9 +113,9 @@ cairo_surface_t* CairoCanvas::surface() const {
   return surface_.get();
 }
 
-void CairoCanvas::ink(Rgb colour, double opacity) {
-  cairo_set_source_rgba(cairo_.get(), (colour >> 16 & 0xFF) / 255.0, (colour >> 8 & 0xFF) / 255.0,
-                        (colour & 0xFF) / 255.0, opacity);
+void CairoCanvas::ink(Rgb colour) {
+  cairo_set_source_rgb(cairo_.get(), (colour >> 16 & 0xFF) / 255.0, (colour >> 8 & 0xFF) / 255.0,
+                       (colour & 0xFF) / 255.0);
 }
 
 void CairoCanvas::trace(std::span<const Vec> points) {
@@ -99,16 +167,17 @@ void CairoCanvas::line(Vec from, Vec to, Rgb colour, double width) {
 }
 
 void CairoCanvas::text(std::string_view text, const Typeface& face, Vec start, Rgb colour) {
+  cairo_t* cairo = cairo_.get();
+  CairoFont& font = fonts_.find(face);
   ink(colour);
-  cairo_move_to(cairo_.get(), start.x, start.y);
-  pango_cairo_show_layout_line(cairo_.get(), pango_layout_get_line_readonly(fonts_.layout(text, face), 0));
-  cairo_new_path(cairo_.get());
-}
-
-double CairoCanvas::textWidth(std::string_view text, const Typeface& face) {
-  int width = 0;
-  pango_layout_get_size(fonts_.layout(text, face), &width, nullptr);
-  return width / double{PANGO_SCALE};
+  for (const auto& [glyph, x] : font.letters(text)) {
+    cairo_save(cairo);
+    cairo_translate(cairo, start.x + x * face.em, start.y);
+    cairo_scale(cairo, face.em / kOutlineEm, face.em / kOutlineEm * face.stretch);
+    font.trace(cairo, glyph);
+    cairo_restore(cairo);
+  }
+  cairo_fill(cairo);
 }
 
 void CairoCanvas::copy(Canvas& from, Vec at) {
@@ -116,13 +185,6 @@ void CairoCanvas::copy(Canvas& from, Vec at) {
   drawn.cairo_ = nullptr;  // a context takes as much memory as a small picture
   cairo_set_source_surface(cairo_.get(), drawn.surface_.get(), at.x, at.y);
   cairo_paint(cairo_.get());
-}
-
-void CairoCanvas::veil(Rgb colour) {
-  ink(colour, 0.5);
-  cairo_set_operator(cairo_.get(), CAIRO_OPERATOR_ATOP);
-  cairo_paint(cairo_.get());
-  cairo_set_operator(cairo_.get(), CAIRO_OPERATOR_OVER);
 }
 
 void CairoCanvas::clip(const Rect& rect) {

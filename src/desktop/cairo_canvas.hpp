@@ -1,9 +1,12 @@
 #pragma once
 
 #include <cairo.h>
-#include <pango/pangocairo.h>
 
+#include <map>
 #include <memory>
+#include <string_view>
+#include <utility>
+#include <vector>
 
 #include "toolkit/canvas.hpp"
 
@@ -12,27 +15,42 @@ namespace tombolario {
 struct CairoDeleter {
   void operator()(cairo_t* context) const { cairo_destroy(context); }
   void operator()(cairo_surface_t* surface) const { cairo_surface_destroy(surface); }
-  void operator()(PangoFontDescription* font) const { pango_font_description_free(font); }
-  template <class Object>
-  void operator()(Object* object) const {
-    g_object_unref(object);
-  }
+  void operator()(cairo_scaled_font_t* font) const { cairo_scaled_font_destroy(font); }
+  void operator()(cairo_path_t* path) const { cairo_path_destroy(path); }
 };
 template <class Object>
 using Owned = std::unique_ptr<Object, CairoDeleter>;
 
+/// A font of the system, its letters as outlines: nothing of it depends on a scale. Lengths are ems.
+class CairoFont {
+ public:
+  /// The first of the families that there is.
+  CairoFont(const char* families, int weight);
+
+  struct Letter {
+    unsigned long glyph;
+    double x;  ///< where it begins
+  };
+  /// One line of UTF-8 text, letter by letter; none where the text or the font is broken.
+  std::vector<Letter> letters(std::string_view text) const;
+  double width(std::string_view text) const;
+  double capHeight() const;
+  /// Adds the outline of a letter, 256 pixels an em, to the path of the context, from the context's origin
+  /// on.
+  void trace(cairo_t* context, unsigned long glyph);
+
+ private:
+  Owned<cairo_scaled_font_t> font_;
+  std::map<unsigned long, Owned<cairo_path_t>> outlines_;
+};
+
 /// The fonts of canvases, which are kept from one drawing to the next.
 class CairoFonts {
  public:
-  CairoFonts();
-
-  /// The text laid out in that face. The layout is good until the next call.
-  PangoLayout* layout(std::string_view text, const Typeface& face);
+  CairoFont& find(const Typeface& face);
 
  private:
-  Owned<PangoContext> context_;
-  Owned<PangoLayout> layout_;
-  Typeface face_{};  // of the layout
+  std::map<std::pair<std::string_view, int>, CairoFont> fonts_;
 };
 
 /// A Cairo surface to draw on.
@@ -53,14 +71,16 @@ class CairoCanvas : public Canvas {
   void fillEllipse(Vec centre, Vec radii, Rgb colour) override;
   void line(Vec from, Vec to, Rgb colour, double width) override;
   void text(std::string_view text, const Typeface& face, Vec start, Rgb colour) override;
-  double textWidth(std::string_view text, const Typeface& face) override;
+  double textWidth(std::string_view text, const Typeface& face) override {
+    return fonts_.find(face).width(text) * face.em;
+  }
+  double capHeight(const Typeface& face) override { return fonts_.find(face).capHeight() * face.em; }
   void copy(Canvas& from, Vec at) override;
-  void veil(Rgb colour) override;
   void clip(const Rect& rect) override;
   void unclip() override { cairo_restore(cairo_.get()); }
 
  private:
-  void ink(Rgb colour, double opacity = 1);
+  void ink(Rgb colour);
   void trace(std::span<const Vec> points);
 
   Owned<cairo_surface_t> surface_;

@@ -22,10 +22,10 @@ constexpr Colour atRest(int cell) { return isGround(cell) ? kGroundAtRest : kTop
 struct Board : Frame {
   explicit Board(Control& parent) : Frame(parent, "FRPEDMAH", {2640, 360, 7455, 5775}, {.back = 0xFFE0C0}) {}
 
-  ControlArray<Button, 1, kCells> Commah{[this](int cell) {
+  ControlArray<TileButton, 1, kCells> Commah{[this](int cell) {
     const Point place = isGround(cell) ? placeIn(600, kGroundColumns, cell - 1)
                                        : placeIn(2280, kTopColumns, cell - kGroundCells - 1);
-    return Button{*this, {"Commah", cell}, {place.x, place.y, 855, 495}, "", {.back = atRest(cell)}}; }};
+    return TileButton{*this, {"Commah", cell}, {place.x, place.y, 855, 495}, "", {.back = atRest(cell)}}; }};
 
   static constexpr Point placeIn(int left, int columns, int index) {
     return {left + 840 * (index % columns), 480 + 480 * (index / columns)};

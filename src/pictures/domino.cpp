@@ -19,8 +19,8 @@ void drawTile(Painter& painter, int face) {
   const auto& [first, second] = kFaceNumbers[face];
   painter.fillRect(kTile, kWhite);
   painter.fillRect({45, 0, 2, kTile.h}, kBlack);
-  painter.picture(*kFlags[first], {7, 13}, false);
-  painter.picture(*kFlags[second], {53, 13}, false);
+  painter.picture(*kFlags[first], Vec{7, 13});
+  painter.picture(*kFlags[second], Vec{53, 13});
 }
 
 void drawBlank(Painter& painter, int) {
@@ -46,7 +46,8 @@ constinit const PictureStore dominob = pictureRow<kTileSize>("dominob", 0, kFace
 constinit const PictureStore domin = pictureRow<kTileSize>("domin", kFaces, 1, drawBlank);
 constinit const PictureStore tabdom = singlePicture<Size{229, kScoreHeight}>("tabdom", drawScore);
 constinit const PictureStore Commdomban =
-    plateStore<"SCELTA COMPUTER", Size{124, 14}, kYellow, kRed>("Commdomban");
-constinit const PictureStore passadomban = plateStore<"PASSA", Size{43, 13}, kBlack, kYellow>("passadomban");
+    plateStore<"SCELTA COMPUTER", Size{124, 14}, kYellow, kRed, 9>("Commdomban");
+constinit const PictureStore passadomban =
+    plateStore<"PASSA", Size{43, 13}, kBlack, kYellow, 9, 41>("passadomban");
 
 }  // namespace tombolario::pictures

@@ -6,15 +6,12 @@ namespace tombolario::pictures {
 
 namespace {
 
-/// Draws a picture that many times as large, in a black edge. Not as the painter would: it keeps pictures in
-/// pixels, and an icon is to be sharp at any size.
+/// Draws a picture that many times as large, in a black edge.
 void place(Painter& painter, const PictureId& picture, Vec at, double zoom) {
   const Size size = picture.size();
   const Rect whole{at.x, at.y, size.width * zoom, size.height * zoom};
   painter.fillRect(whole.inset(-2), kBlack);
-  painter.enter(whole, zoom);
-  picture.draw(painter);
-  painter.leave();
+  painter.drawing(picture, whole);
 }
 
 }  // namespace

@@ -16,8 +16,13 @@ Font lettering(double capHeight);
 void fittedText(Painter& painter, const Rect& box, std::string_view text, const Font& font, Rgb ink,
                 Align align = Align::Centre);
 
-/// A ground of one colour with a line of text in its middle, no wider than the room for it.
-void plate(Painter& painter, Size size, double room, std::string_view text, Rgb ink, Rgb ground);
+/// A ground of one colour with a line of text in its middle, its capitals of that height or, where it would
+/// be wider than the room for it, smaller.
+void plate(Painter& painter, Size size, double room, double capHeight, std::string_view text, Rgb ink,
+           Rgb ground);
+
+/// Of the words on the small buttons of ramino, and in the help that shows them.
+inline constexpr int kSmallCapHeight = 8;
 
 /// A text that a template can be made of.
 template <std::size_t N>
@@ -26,11 +31,13 @@ struct FixedText {
   char text[N]{};
 };
 
-/// A store of one plate; `kRoom` is the width left for its text, in pixels.
-template <FixedText kText, Size kSize, Rgb kInk, Rgb kGround, int kRoom = kSize.width - 6>
+/// A store of one plate; `kCapHeight` and `kRoom`, the width left for its text, are pixels.
+template <FixedText kText, Size kSize, Rgb kInk, Rgb kGround, int kCapHeight = std::min(11, kSize.height - 5),
+          int kRoom = kSize.width - 4>
 constexpr PictureStore plateStore(std::string_view name) {
-  return singlePicture<kSize>(
-      name, [](Painter& painter, int) { plate(painter, kSize, kRoom, kText.text, kInk, kGround); });
+  return singlePicture<kSize>(name, [](Painter& painter, int) {
+    plate(painter, kSize, kRoom, kCapHeight, kText.text, kInk, kGround);
+  });
 }
 
 }  // namespace tombolario::pictures

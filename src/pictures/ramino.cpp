@@ -85,9 +85,11 @@ constexpr Inks kEven{0xFF8040, kGrey};
 }  // namespace
 
 constinit const PictureStore PicRAM3 = singlePicture<kCardSize>("PicRAM3", drawBack);
-constinit const PictureStore rampul1 = plateStore<"Segna", Size{37, 13}, kWhite, kRed>("rampul1");
+constinit const PictureStore rampul1 =
+    plateStore<"Segna", Size{37, 13}, kWhite, kRed, kSmallCapHeight>("rampul1");
 constinit const PictureStore rampul2 = singlePicture<kExchangeSize>("rampul2", drawExchange);
-constinit const PictureStore ramlas = plateStore<"lascia", Size{46, 15}, kWhite, kBlue>("ramlas");
+constinit const PictureStore ramlas =
+    plateStore<"lascia", Size{46, 15}, kWhite, kBlue, kSmallCapHeight>("ramlas");
 constinit const PictureStore scambiaram = singlePicture<kSwapSize>("scambiaram", drawSwap);
 constinit const PictureStore RAMRESULT = singlePicture<kScoreSize>("RAMRESULT", drawScore);
 constinit const PictureStore rampar = endStore<kEven, kEven>("rampar");

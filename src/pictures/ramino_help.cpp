@@ -1,7 +1,9 @@
 #include <array>
+#include <cmath>
 #include <span>
 
 #include "pictures/catalogue.hpp"
+#include "pictures/lettering.hpp"
 #include "toolkit/painter.hpp"
 
 namespace tombolario::pictures {
@@ -14,9 +16,9 @@ constexpr Font kFont{.points = 9.25};
 constexpr double kMargin = 7;
 constexpr double kGap = 4;
 constexpr double kLineHeight = 15.25;
-constexpr double kTagMargin = 2;
+constexpr double kTagMargin = 3;
 
-/// A part of a line: plain text, a word with inks of its own, or a small picture.
+/// A part of a line: plain text, a word on a plate as the small buttons have, or a small picture.
 struct Run {
   constexpr Run(const char* plain) : text(plain) {}
   constexpr Run(const char* word, Rgb ownInk, Rgb ownGround) : text(word), ink(ownInk), ground(ownGround) {}
@@ -57,7 +59,8 @@ constexpr std::array<std::span<const Run>, 8> kLines{kFirst, kSecond, kThird,   
 
 double widthOf(Painter& painter, const Run& run) {
   if (run.picture != nullptr) return run.size().width;
-  return painter.textWidth(run.text, kFont) + (run.tagged() ? 2 * kTagMargin : 0);
+  if (!run.tagged()) return painter.textWidth(run.text, kFont);
+  return std::ceil(painter.textWidth(run.text, lettering(kSmallCapHeight))) + 2 * kTagMargin;
 }
 
 /// Stops and brackets stand close to what they follow or enclose.
@@ -70,11 +73,15 @@ double gapBetween(const Run& left, const Run& right) {
 
 void drawRun(Painter& painter, const Run& run, const Rect& place) {
   if (run.picture != nullptr) {
-    painter.picture(*run.picture, {place.x, place.y + (place.h - run.size().height) / 2}, false);
+    painter.picture(*run.picture, Vec{place.x, place.y + (place.h - run.size().height) / 2});
     return;
   }
-  if (run.tagged()) painter.fillRect({place.x, place.y + 1, place.w, place.h - 2}, run.ground);
-  painter.text(place, run.text, kFont, run.ink, Align::Centre);
+  if (!run.tagged()) return painter.text(place, run.text, kFont, run.ink, Align::Centre);
+  const double height = rampul1.size(0).height;
+  const Rect plate{place.x, place.y + (place.h - height) / 2, place.w, height};
+  painter.fillRect(plate, run.ground);
+  // On the line of the buttons that are shown beside it.
+  painter.text(plate.movedBy(0, -1), run.text, lettering(kSmallCapHeight), run.ink, Align::Centre);
 }
 
 double drawLine(Painter& painter, std::span<const Run> line, double top) {

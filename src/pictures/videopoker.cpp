@@ -1,3 +1,4 @@
+#include <cmath>
 #include <string>
 
 #include "pictures/catalogue.hpp"
@@ -8,33 +9,19 @@ namespace tombolario::pictures {
 
 namespace {
 
-/// A lit row is 17 to 20 pixels high and may reach a little under the next one. The lines of text are even,
-/// the tops of the rows are not: `middle` is where the text of a row is, in pixels from its top.
-struct LitRow {
-  double middle;
-  int height;
-};
-constexpr Slots<LitRow, 0, 10> kLitRows = slots<0, LitRow>({{9, 19},
-                                                            {7.7, 19},
-                                                            {6.9, 17},
-                                                            {8.5, 17},
-                                                            {8.6, 17},
-                                                            {8.3, 17},
-                                                            {8.5, 17},
-                                                            {8.8, 17},
-                                                            {8.5, 17},
-                                                            {8.2, 17},
-                                                            {10.3, 20}});
+/// A lit row begins at its top, which are uneven, and may reach a little under the next one: where its middle
+/// is, the words of the row are, and the steps between them are as even as that leaves them.
+constexpr Slots<int, 0, 10> kLitHeights = slots<0, int>({19, 17, 17, 20, 20, 20, 20, 20, 20, 20, 20});
 
 constexpr Size kPayTableSize{156, 191};
 
 Size litRowSize(int row) {
   const int width = row >= 3 && row <= 9 ? 167 : kPayTableSize.width;
-  return {width, kLitRows[row].height};
+  return {width, kLitHeights[row]};
 }
 
 void drawPayRow(Painter& painter, int row) {
-  const Rect box{10, kLitRows[row].middle - 8, kPayTableSize.width - 20, 16};
+  const Rect box{10, 0, kPayTableSize.width - 20, static_cast<double>(kLitHeights[row])};
   const Font font = lettering(9.5);
   painter.text(box, kPayTable[row].name, font, kWhite, Align::Left);
   painter.text(box, std::to_string(kPayTable[row].amount), font, kWhite, Align::Right);
@@ -43,8 +30,8 @@ void drawPayRow(Painter& painter, int row) {
 void drawPayTable(Painter& painter, int) {
   painter.fillRect({0, 0, kPayTableSize.width, kPayTableSize.height}, kRed);
   for (int row = 0; row < static_cast<int>(kPayTable.items.size()); ++row) {
-    const double top = kPayTable[row].top / double{kTwipsPerPixel};
-    painter.enter({0, top, kPayTableSize.width, static_cast<double>(kLitRows[row].height)});
+    const double top = std::round(kPayTable[row].top / double{kTwipsPerPixel});
+    painter.enter({0, top, kPayTableSize.width, static_cast<double>(kLitHeights[row])});
     drawPayRow(painter, row);
     painter.leave();
   }
@@ -68,16 +55,18 @@ void drawStripes(Painter& painter, int) {
 
 constinit const PictureStore Pictcomvidpok = singlePicture<kPayTableSize>("Pictcomvidpok", drawPayTable);
 constinit const PictureStore segn{"segn", 0, kPayTable.items.size(), true, litRowSize, drawLitRow};
-// These four are wider than the buttons that show them, 169 pixels.
+// These four are wider than the buttons that show them, 169 pixels, and lie beside each other.
 constexpr int kButtonRoom = 155;
+constexpr int kButtonCapHeight = 8;
 constinit const PictureStore CONTPOK1 =
-    plateStore<"CONTINUA (-5)", Size{204, 18}, kRed, kCyan, kButtonRoom>("CONTPOK1");
+    plateStore<"CONTINUA (-5)", Size{204, 18}, kRed, kCyan, kButtonCapHeight, kButtonRoom>("CONTPOK1");
 constinit const PictureStore CONTPOK2 =
-    plateStore<"CREDITO INSUFFICIENTE", Size{204, 18}, kRed, kCyan, kButtonRoom>("CONTPOK2");
+    plateStore<"CREDITO INSUFFICIENTE", Size{204, 18}, kRed, kCyan, kButtonCapHeight, kButtonRoom>(
+        "CONTPOK2");
 constinit const PictureStore SALVPOK1 =
-    plateStore<"SALVA", Size{205, 18}, kYellow, kRed, kButtonRoom>("SALVPOK1");
+    plateStore<"SALVA", Size{205, 18}, kYellow, kRed, kButtonCapHeight, kButtonRoom>("SALVPOK1");
 constinit const PictureStore SALVPOK2 =
-    plateStore<"NON SALVABILE", Size{205, 18}, kYellow, kRed, kButtonRoom>("SALVPOK2");
+    plateStore<"NON SALVABILE", Size{205, 18}, kYellow, kRed, kButtonCapHeight, kButtonRoom>("SALVPOK2");
 constinit const PictureStore striscie = singlePicture<Size{432, 196}>("striscie", drawStripes);
 
 }  // namespace tombolario::pictures

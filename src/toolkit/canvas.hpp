@@ -11,9 +11,10 @@ namespace tombolario {
 
 /// A font as a device takes it.
 struct Typeface {
-  const char* families;  ///< the best first, with commas between: Pango and CSS read them alike
+  const char* families;  ///< the best first, with commas between
   int weight;            ///< 400 is plain, 700 bold, 900 the heaviest
   double em;             ///< in device pixels
+  double stretch = 1;    ///< of the height alone
   constexpr bool operator==(const Typeface&) const = default;
 };
 
@@ -37,10 +38,10 @@ class Canvas {
   /// One line of UTF-8 text from there on, which is a place on its baseline.
   virtual void text(std::string_view text, const Typeface& face, Vec start, Rgb colour) = 0;
   virtual double textWidth(std::string_view text, const Typeface& face) = 0;
+  /// How high the capitals are, without any stretch.
+  virtual double capHeight(const Typeface& face) = 0;
   /// Copies all of the other canvas, on which nothing more is drawn from then on.
   virtual void copy(Canvas& from, Vec at) = 0;
-  /// Half covers what has been drawn, and nothing else, with the colour.
-  virtual void veil(Rgb colour) = 0;
   /// Clips further, until the matching unclip.
   virtual void clip(const Rect& rect) = 0;
   virtual void unclip() = 0;

@@ -39,6 +39,15 @@ std::vector<std::string_view> broken(Painter& painter, std::string_view line, co
   return lines;
 }
 
+/// The lines in which a caption is set, as wide as they are at that font.
+std::vector<std::string_view> linesIn(Painter& painter, const Rect& box, std::string_view caption,
+                                      const Font& font) {
+  auto lines = linesOf(caption);
+  if (lines.size() > 1) return lines;
+  auto parts = broken(painter, caption, font, box.w - 2 * kTextMargin);
+  return static_cast<double>(parts.size()) * lineHeight(font) <= box.h ? parts : lines;
+}
+
 }  // namespace
 
 Font fittingFont(Painter& painter, std::string_view text, Font font, double width) {
@@ -49,22 +58,23 @@ Font fittingFont(Painter& painter, std::string_view text, Font font, double widt
 
 double lineHeight(const Font& font) { return font.points * 96 / 72 * 1.25; }
 
-void drawCaption(Painter& painter, const Rect& box, std::string_view caption, const Font& font, Rgb colour,
-                 Align align, bool dimmed) {
-  if (caption.empty()) return;
-  const double height = lineHeight(font);
-  const double width = box.w - 2 * kTextMargin;
-  const auto tall = [&](const auto& lines) { return static_cast<double>(lines.size()) * height; };
-  auto lines = linesOf(caption);
-  if (lines.size() == 1) {
-    auto parts = broken(painter, caption, font, width);
-    if (tall(parts) <= box.h) lines = std::move(parts);
+Font captionFont(Painter& painter, const Rect& box, std::string_view caption, const Font& font) {
+  Font fitting = font;
+  for (const std::string_view text : linesIn(painter, box, caption, font)) {
+    fitting = fittingFont(painter, text, fitting, box.w - 2 * kTextMargin);
   }
-  Rect line{box.x, box.y + (box.h - tall(lines)) / 2, box.w, height};
+  return fitting;
+}
+
+void drawCaption(Painter& painter, const Rect& box, std::string_view caption, const Font& font, Rgb colour,
+                 Align align) {
+  if (caption.empty()) return;
+  const Font fitting = captionFont(painter, box, caption, font);
+  const auto lines = linesIn(painter, box, caption, font);
+  const double height = lineHeight(font);
+  Rect line{box.x, box.y + (box.h - static_cast<double>(lines.size()) * height) / 2, box.w, height};
   for (const std::string_view text : lines) {
-    const Font fitting = fittingFont(painter, text, font, width);
-    if (dimmed) painter.text(line.movedBy(1, 1), text, fitting, kWhite, align);
-    painter.text(line, text, fitting, dimmed ? classicPalette(SystemColour::ButtonShadow) : colour, align);
+    painter.text(line, text, fitting, colour, align);
     line.y += height;
   }
 }

@@ -15,13 +15,6 @@ inline constexpr Rgb kBlue = 0x0000FF;
 inline constexpr Rgb kYellow = 0xFFFF00;
 inline constexpr Rgb kCyan = 0x00FFFF;
 
-/// The colour under the grey veil that lies over what is disabled.
-inline constexpr Rgb kVeil = 0xC0C0C0;
-constexpr Rgb veiled(Rgb colour) {
-  // Half of each channel of both, none carrying into the next.
-  return (colour >> 1 & 0x7F7F7F) + (kVeil >> 1 & 0x7F7F7F);
-}
-
 /// The colours that belong to the system and are known by their role alone.
 enum class SystemColour : std::uint8_t { Light3d, ButtonShadow, ButtonFace, ToolTip, Window, ActiveBorder };
 

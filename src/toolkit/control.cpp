@@ -1,16 +1,22 @@
 #include "toolkit/control.hpp"
 
+#include <cmath>
 #include <stdexcept>
+#include <utility>
 
+#include "toolkit/contrast.hpp"
 #include "toolkit/form.hpp"
 
 namespace tombolario {
 
 namespace {
 
+/// The pixels that a box of twips takes, whole ones.
 Rect pixels(Point at, int width, int height) {
-  const double unit = kTwipsPerPixel;
-  return {at.x / unit, at.y / unit, width / unit, height / unit};
+  const auto pixel = [](int twips) { return std::round(twips / double{kTwipsPerPixel}); };
+  const double x = pixel(at.x);
+  const double y = pixel(at.y);
+  return {x, y, pixel(at.x + width) - x, pixel(at.y + height) - y};
 }
 
 }  // namespace
@@ -82,18 +88,31 @@ Control* Control::at(Point point) {
   return this;
 }
 
-void Control::paint(Painter& painter) const {
-  const Rect bounds = pixels({}, Width, Height);
+void Control::paint(Painter& painter, const Rect& bounds) const {
   draw(painter, bounds);
   if (children_.empty()) return;
-  if (inset() != 0) painter.enter(bounds.inset(inset() / static_cast<double>(kTwipsPerPixel)));
+  if (inset() != 0) painter.enterInside(bounds);
   for (const Control* child : children_) {
     if (!child->Visible) continue;
-    painter.enter(pixels({child->Left, child->Top}, child->Width, child->Height));
-    child->paint(painter);
+    const Rect box = pixels({child->Left, child->Top}, child->Width, child->Height);
+    if (child->edged()) {
+      painter.enterEdged(box);
+    } else {
+      painter.enter(box);
+    }
+    child->paint(painter, {0, 0, box.w, box.h});
     painter.leave();
   }
   if (inset() != 0) painter.leave();
+}
+
+Rgb Control::ink() const {
+  const Rgb ink = ForeColor.get().rgb();
+  return Enabled ? ink : quiet(ink, BackColor.get().rgb());
+}
+
+std::optional<Rgb> Control::quietOn() const {
+  return Enabled ? std::nullopt : std::optional(BackColor.get().rgb());
 }
 
 void Control::changed() { form_.redraw(); }

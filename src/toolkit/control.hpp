@@ -2,6 +2,7 @@
 
 #include <cstdint>
 #include <functional>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -72,8 +73,8 @@ class Control {
   /// The topmost visible control here that takes the mouse at the point, which is relative to this control;
   /// null if the point is outside or the control itself is hidden.
   Control* at(Point point);
-  /// Draws the control and what lies in it, from its own top left corner.
-  void paint(Painter& painter) const;
+  /// Draws the control and what lies in it where it is the present place, of that size in pixels from (0,0).
+  void paint(Painter& painter, const Rect& bounds) const;
 
   Property<bool> Visible;
   Property<bool> Enabled{*this, true};
@@ -113,8 +114,14 @@ class Control {
   virtual void draw(Painter& painter, const Rect& bounds) const = 0;
   /// Shapes and lines let the mouse through.
   virtual bool takesMouse() const { return true; }
-  /// By how much what lies inside is set off from the top left corner, in twips.
+  /// Whether lines are drawn along its edges.
+  virtual bool edged() const { return true; }
+  /// By how much what lies inside is set off from the top left corner, in twips: nothing or a line.
   virtual int inset() const { return 0; }
+  /// The colour of its text, which is quiet while it is disabled.
+  Rgb ink() const;
+  /// The ground on which its picture is quiet, while it is disabled.
+  std::optional<Rgb> quietOn() const;
 
   const Form& form() const { return form_; }
   const Font& font() const { return font_; }

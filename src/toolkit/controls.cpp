@@ -1,8 +1,11 @@
 #include "toolkit/controls.hpp"
 
 #include <algorithm>
+#include <cmath>
+#include <optional>
 
 #include "toolkit/caption.hpp"
+#include "toolkit/contrast.hpp"
 #include "toolkit/edges.hpp"
 #include "toolkit/form.hpp"
 
@@ -19,10 +22,14 @@ void drawBorder(Painter& painter, const Rect& bounds, Border border) {
   }
 }
 
-void drawCentred(Painter& painter, const Rect& bounds, const PictureId& picture, bool dimmed) {
-  const Size size = picture.size();
-  painter.picture(picture, {bounds.x + (bounds.w - size.width) / 2, bounds.y + (bounds.h - size.height) / 2},
-                  dimmed);
+/// At its own size, on whole pixels.
+void drawCentred(Painter& painter, const Rect& bounds, const PictureId& picture, std::optional<Rgb> quietOn) {
+  const double width = picture.size().width;
+  const double height = picture.size().height;
+  painter.picture(picture,
+                  {bounds.x + std::floor((bounds.w - width + 1) / 2),
+                   bounds.y + std::floor((bounds.h - height + 1) / 2), width, height},
+                  quietOn);
 }
 
 }  // namespace
@@ -34,7 +41,7 @@ void Frame::draw(Painter& painter, const Rect& bounds) const {
     drawBorder(painter, bounds, border());
     return;
   }
-  const double height = lineHeight(font());
+  const double height = std::round(lineHeight(font()));
   drawBorder(painter, {bounds.x, bounds.y + height / 2, bounds.w, bounds.h - height / 2}, border());
   const Rect box{bounds.x + 8, bounds.y, painter.textWidth(caption, font()) + 6, height};
   painter.fillRect(box, BackColor.get().rgb());
@@ -43,13 +50,16 @@ void Frame::draw(Painter& painter, const Rect& bounds) const {
 
 void Label::draw(Painter& painter, const Rect& bounds) const {
   painter.fillRect(bounds, BackColor.get().rgb());
-  drawCaption(painter, bounds, Caption.get(), font(), ForeColor.get().rgb(), align(), !Enabled);
+  drawCaption(painter, bounds, Caption.get(), font(), ink(), align());
   drawBorder(painter, bounds, border());
 }
 
 void PictureBox::draw(Painter& painter, const Rect& bounds) const {
+  const bool bordered = border() == Border::Single;
   painter.fillRect(bounds, BackColor.get().rgb());
-  if (Picture.get()) drawCentred(painter, bounds, Picture, !Enabled);
+  if (bordered) painter.enterInside(bounds);
+  drawCentred(painter, bordered ? Rect{0, 0, bounds.w - 2, bounds.h - 2} : bounds, Picture, quietOn());
+  if (bordered) painter.leave();
   drawBorder(painter, bounds, border());
 }
 
@@ -58,26 +68,54 @@ void Image::draw(Painter& painter, const Rect& bounds) const {
   if (!picture) return;
   const Size size = picture.size();
   const double zoom = std::min(bounds.w / size.width, bounds.h / size.height);
-  if (zoom >= 1) return drawCentred(painter, bounds, picture, !Enabled);
-  painter.enter({bounds.x + (bounds.w - size.width * zoom) / 2,
-                 bounds.y + (bounds.h - size.height * zoom) / 2, size.width * zoom, size.height * zoom},
-                zoom);
-  painter.picture(picture, {0, 0}, !Enabled);
-  painter.leave();
+  if (zoom >= 1) return drawCentred(painter, bounds, picture, quietOn());
+  const double width = std::round(size.width * zoom);
+  const double height = std::round(size.height * zoom);
+  painter.picture(picture,
+                  {bounds.x + std::floor((bounds.w - width) / 2),
+                   bounds.y + std::floor((bounds.h - height) / 2), width, height},
+                  quietOn());
 }
 
 void Button::draw(Painter& painter, const Rect& bounds) const {
   const bool down = form().holdsDown(*this);
-  const Rgb ground = BackColor.get().rgb();
-  painter.fillRect(bounds, Picture.get() && !Enabled ? veiled(ground) : ground);
+  painter.fillRect(bounds, BackColor.get().rgb());
   const Rect face = bounds.inset(4);
   const Rect content = down ? face.movedBy(1, 1) : face;
   if (Picture.get()) {
-    drawCentred(painter, content, Picture, !Enabled);
+    drawCentred(painter, content, Picture, quietOn());
   } else {
-    drawCaption(painter, content, Caption.get(), font(), ForeColor.get().rgb(), align(), !Enabled);
+    drawCaption(painter, content, Caption.get(), captionFont(painter, face), ink(), align());
   }
-  drawEdge(painter, bounds, down ? Edge::Pressed : Edge::Raised);
+  drawEdge(painter, bounds, !Enabled ? Edge::Flat : down ? Edge::Pressed : Edge::Raised);
+}
+
+/// Buttons of one width above each other have letters of one height.
+Font Button::captionFont(Painter& painter, const Rect& face) const {
+  Font smallest = font();
+  for (const Control* child : parent()->children()) {
+    const auto* fellow = dynamic_cast<const Button*>(child);
+    if (fellow == nullptr || fellow->Left != Left || fellow->Width != Width || fellow->font() != font())
+      continue;
+    const Rect box{0, 0, face.w, fellow->Height / double{kTwipsPerPixel} - 8};
+    const Font fitting = tombolario::captionFont(painter, box, fellow->Caption.get(), font());
+    if (fitting.points < smallest.points) smallest = fitting;
+  }
+  return smallest;
+}
+
+void TileButton::draw(Painter& painter, const Rect& bounds) const {
+  constexpr int kBody = 3;
+  const bool down = form().holdsDown(*this);
+  const Rgb face = BackColor.get().rgb();
+  const Rgb side = mixed(face, kBlack, down ? 0.15 : 0.35);
+  painter.fillRect(bounds, face);
+  const Rect top{bounds.x + 1, bounds.y + 1, bounds.w - 2 - kBody, bounds.h - 2 - kBody};
+  drawCentred(painter, down ? top.movedBy(1, 1) : top, Picture, quietOn());
+  painter.bevel(bounds, 0, mixed(face, kBlack, 0.5), mixed(face, kBlack, 0.7));
+  for (int layer = 1; layer <= kBody; ++layer) {
+    painter.bevel(bounds, layer, layer == 1 && !down ? mixed(face, kWhite, 0.6) : face, side);
+  }
 }
 
 void OptionButton::changed() {
@@ -98,7 +136,7 @@ void OptionButton::draw(Painter& painter, const Rect& bounds) const {
   painter.fillEllipse(ring.inset(1.75), Enabled ? kWhite : classicPalette(SystemColour::Light3d));
   if (Value == 1) painter.fillEllipse(ring.inset(3.75), Enabled ? kBlack : shadow);
   const Rect text{bounds.x + size + 7, bounds.y, bounds.w - size - 7, bounds.h};
-  drawCaption(painter, text, Caption.get(), font(), ForeColor.get().rgb(), Align::Left, !Enabled);
+  drawCaption(painter, text, Caption.get(), font(), ink(), Align::Left);
 }
 
 void Shape::draw(Painter& painter, const Rect& bounds) const {
@@ -114,8 +152,8 @@ void TextBox::draw(Painter& painter, const Rect& bounds) const {
   const auto lines = 1 + std::count(Caption.get().begin(), Caption.get().end(), '\n');
   const double height = static_cast<double>(lines) * lineHeight(font());
   painter.fillRect(bounds, BackColor.get().rgb());
-  drawCaption(painter, {bounds.x + 5, bounds.y + 4, bounds.w - 10, height}, Caption.get(), font(),
-              ForeColor.get().rgb(), align(), !Enabled);
+  drawCaption(painter, {bounds.x + 5, bounds.y + 4, bounds.w - 10, height}, Caption.get(), font(), ink(),
+              align());
   drawEdge(painter, bounds, Edge::Sunken);
 }
 

@@ -14,6 +14,7 @@ class Frame : public Control {
       : Control(parent, name, box, std::move(caption), look) {}
 
  private:
+  bool edged() const override { return border() != Border::None; }
   void draw(Painter& painter, const Rect& bounds) const override;
 };
 
@@ -24,6 +25,7 @@ class Label : public Control {
       : Control(parent, name, box, std::move(caption), look) {}
 
  private:
+  bool edged() const override { return border() != Border::None; }
   void draw(Painter& painter, const Rect& bounds) const override;
 };
 
@@ -59,6 +61,16 @@ class Button : public Control {
     if (onClick) onClick();
   }
   bool sinks() const override { return true; }
+
+ private:
+  void draw(Painter& painter, const Rect& bounds) const override;
+  Font captionFont(Painter& painter, const Rect& face) const;
+};
+
+/// A button with a picture that has a body, seen from the left above.
+class TileButton : public Button {
+ public:
+  using Button::Button;
 
  private:
   void draw(Painter& painter, const Rect& bounds) const override;

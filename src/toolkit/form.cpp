@@ -85,11 +85,16 @@ PictureId Form::cursor() {
   return live(control) && control->MousePointer == kCustomPointer ? control->MouseIcon.get() : PictureId{};
 }
 
-void Form::repaint(Painter& painter) {
+void Form::paint(Painter& painter) const {
   const double unit = kTwipsPerPixel;
-  painter.enter({0, 0, Width / unit, Height / unit});
-  paint(painter);
+  const Rect bounds{0, 0, Width / unit, Height / unit};
+  painter.enter(bounds);
+  Control::paint(painter, bounds);
   painter.leave();
+}
+
+void Form::repaint(Painter& painter) {
+  paint(painter);
   needsDrawing_ = false;
 }
 

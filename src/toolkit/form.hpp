@@ -40,7 +40,8 @@ class Form : public Control {
   /// True from a change that can be seen until the next repaint.
   bool needsDrawing() const { return needsDrawing_; }
   void redraw() { needsDrawing_ = true; }
-  /// Draws the whole window and nothing outside it.
+  /// Draws the whole window and nothing outside it, for somebody who looks on, or for the player.
+  void paint(Painter& painter) const;
   void repaint(Painter& painter);
 
   /// The control of that name, as `Command8` or `Pict(3)`, the window itself too; null if there is none.

@@ -82,7 +82,7 @@ void ScrollBar::draw(Painter& painter, const Rect& bounds) const {
   const bool horizontal = direction_ == Direction::Horizontal;
   const bool down = form().holdsDown(*this);
   const Rgb face = BackColor.get().rgb();
-  const Rgb ink = Enabled ? kBlack : classicPalette(SystemColour::ButtonShadow);
+  const Rgb ink = Enabled && range() > 0 ? kBlack : classicPalette(SystemColour::ButtonShadow);
   const auto button = [&](int from, int length, bool sunken) {
     const Rect rect = stretch(horizontal, bounds, from, length);
     painter.fillRect(rect, face);

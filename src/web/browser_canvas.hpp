@@ -16,11 +16,11 @@ void canvas_stroke_polygon(int canvas, const Vec* points, std::size_t count, Rgb
 void canvas_fill_ellipse(int canvas, double x, double y, double radiusX, double radiusY, Rgb colour);
 void canvas_line(int canvas, double fromX, double fromY, double toX, double toY, Rgb colour, double width);
 void canvas_text(int canvas, const char* text, std::size_t length, const char* families, int weight,
-                 double em, double x, double baseline, Rgb colour);
+                 double em, double stretch, double x, double baseline, Rgb colour);
 double canvas_text_width(int canvas, const char* text, std::size_t length, const char* families, int weight,
                          double em);
+double canvas_cap_height(int canvas, const char* families, int weight);
 void canvas_copy(int canvas, int from, double x, double y);
-void canvas_veil(int canvas, Rgb colour);
 void canvas_clip(int canvas, double x, double y, double width, double height);
 void canvas_unclip(int canvas);
 }
@@ -58,16 +58,18 @@ class BrowserCanvas : public Canvas {
     canvas_line(handle_, from.x, from.y, to.x, to.y, colour, width);
   }
   void text(std::string_view text, const Typeface& face, Vec start, Rgb colour) override {
-    canvas_text(handle_, text.data(), text.size(), face.families, face.weight, face.em, start.x, start.y,
-                colour);
+    canvas_text(handle_, text.data(), text.size(), face.families, face.weight, face.em, face.stretch, start.x,
+                start.y, colour);
   }
   double textWidth(std::string_view text, const Typeface& face) override {
     return canvas_text_width(handle_, text.data(), text.size(), face.families, face.weight, face.em);
   }
+  double capHeight(const Typeface& face) override {
+    return canvas_cap_height(handle_, face.families, face.weight) * face.em;
+  }
   void copy(Canvas& from, Vec at) override {
     canvas_copy(handle_, static_cast<BrowserCanvas&>(from).handle_, at.x, at.y);
   }
-  void veil(Rgb colour) override { canvas_veil(handle_, colour); }
   void clip(const Rect& rect) override { canvas_clip(handle_, rect.x, rect.y, rect.w, rect.h); }
   void unclip() override { canvas_unclip(handle_); }
 

@@ -83,11 +83,15 @@ mergeInto(LibraryManager.library, {
     context.stroke();
   },
   canvas_text__deps: ['$contextOf', '$cssColour', '$cssFont'],
-  canvas_text: function (canvas, text, length, families, weight, em, x, baseline, rgb) {
+  canvas_text: function (canvas, text, length, families, weight, em, stretch, x, baseline, rgb) {
     const context = contextOf(canvas);
     context.font = cssFont(families, weight, em);
     context.fillStyle = cssColour(rgb);
-    context.fillText(UTF8ToString(text, length), x, baseline);
+    context.save();
+    context.translate(x, baseline);
+    context.scale(1, stretch);
+    context.fillText(UTF8ToString(text, length), 0, 0);
+    context.restore();
   },
   canvas_text_width__deps: ['$contextOf', '$cssFont'],
   canvas_text_width: function (canvas, text, length, families, weight, em) {
@@ -95,19 +99,18 @@ mergeInto(LibraryManager.library, {
     context.font = cssFont(families, weight, em);
     return context.measureText(UTF8ToString(text, length)).width;
   },
+  // In ems, measured large: what browsers tell of small letters is rounded.
+  $capHeights: {},
+  canvas_cap_height__deps: ['$capHeights', '$contextOf', '$cssFont'],
+  canvas_cap_height: function (canvas, families, weight) {
+    const context = contextOf(canvas);
+    context.font = cssFont(families, weight, 1000);
+    capHeights[context.font] ??= context.measureText('H').actualBoundingBoxAscent / 1000;
+    return capHeights[context.font];
+  },
   canvas_copy__deps: ['$contextOf'],
   canvas_copy: function (canvas, from, x, y) {
     contextOf(canvas).drawImage(contextOf(from).canvas, x, y);
-  },
-  canvas_veil__deps: ['$contextOf', '$cssColour'],
-  canvas_veil: function (canvas, rgb) {
-    const context = contextOf(canvas);
-    context.globalCompositeOperation = 'source-atop';
-    context.globalAlpha = 0.5;
-    context.fillStyle = cssColour(rgb);
-    context.fillRect(0, 0, context.canvas.width, context.canvas.height);
-    context.globalCompositeOperation = 'source-over';
-    context.globalAlpha = 1;
   },
   canvas_clip__deps: ['$contextOf'],
   canvas_clip: function (canvas, x, y, width, height) {

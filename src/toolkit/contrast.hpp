@@ -1,0 +1,17 @@
+#pragma once
+
+#include "toolkit/colour.hpp"
+
+namespace tombolario {
+
+/// Between two colours, each channel by itself: 0 is the first, 1 the second.
+Rgb mixed(Rgb from, Rgb to, double share);
+
+/// How far apart two colours are in lightness: from 1, which is not at all, to 21, black and white. Large
+/// text can be read from 3 on.
+double contrast(Rgb one, Rgb other);
+
+/// An ink for what is out of use: as near to the ground as can still be read, and of the ink's own hue.
+Rgb quiet(Rgb ink, Rgb ground);
+
+}  // namespace tombolario
