@@ -72,13 +72,17 @@ double gapBetween(const Run& left, const Run& right) {
 }
 
 void drawRun(Painter& painter, const Run& run, const Rect& place) {
+  // A small plate hangs lower than the middle of its line: its word stands on the line.
+  const double small = rampul1.size(0).height;
+  const auto top = [&](double height) {
+    return place.y + (place.h - height) / 2 + (height == small ? 1.5 : 0);
+  };
   if (run.picture != nullptr) {
-    painter.picture(*run.picture, Vec{place.x, place.y + (place.h - run.size().height) / 2});
+    painter.picture(*run.picture, Vec{place.x, top(run.size().height)});
     return;
   }
   if (!run.tagged()) return painter.text(place, run.text, kFont, run.ink, Align::Centre);
-  const double height = rampul1.size(0).height;
-  const Rect plate{place.x, place.y + (place.h - height) / 2, place.w, height};
+  const Rect plate{place.x, top(small), place.w, small};
   painter.fillRect(plate, run.ground);
   // On the line of the buttons that are shown beside it.
   painter.text(plate.movedBy(0, -1), run.text, lettering(kSmallCapHeight), run.ink, Align::Centre);

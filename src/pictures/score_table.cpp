@@ -15,9 +15,12 @@ constexpr double kHeadHeight = 21;
 constexpr double kSideHeight = 31;
 
 void cell(Painter& painter, const Rect& box, const char* text, Inks inks) {
-  painter.fillRect(box, inks.ground);
-  painter.outlineRect(box, kBlack, 1);
-  fittedText(painter, box.inset(5), text, lettering(9), inks.text);
+  const Rect bounds{0, 0, box.w, box.h};
+  painter.enterEdged(box);
+  painter.fillRect(bounds, inks.ground);
+  painter.outlineRect(bounds, kBlack, 1);
+  fittedText(painter, bounds.inset(5), text, lettering(9), inks.text);
+  painter.leave();
 }
 
 }  // namespace

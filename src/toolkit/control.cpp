@@ -98,7 +98,7 @@ void Control::paint(Painter& painter, const Rect& bounds) const {
     if (child->edged()) {
       painter.enterEdged(box);
     } else {
-      painter.enter(box);
+      painter.enterPlain(box);
     }
     child->paint(painter, {0, 0, box.w, box.h});
     painter.leave();

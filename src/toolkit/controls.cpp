@@ -35,17 +35,11 @@ void drawCentred(Painter& painter, const Rect& bounds, const PictureId& picture,
 }  // namespace
 
 void Frame::draw(Painter& painter, const Rect& bounds) const {
-  painter.fillRect(bounds, BackColor.get().rgb());
   const std::string& caption = Caption;
-  if (caption.empty()) {
-    drawBorder(painter, bounds, border());
-    return;
-  }
-  const double height = std::round(lineHeight(font()));
-  drawBorder(painter, {bounds.x, bounds.y + height / 2, bounds.w, bounds.h - height / 2}, border());
-  const Rect box{bounds.x + 8, bounds.y, painter.textWidth(caption, font()) + 6, height};
-  painter.fillRect(box, BackColor.get().rgb());
-  painter.text(box, caption, font(), ForeColor.get().rgb(), Align::Centre);
+  painter.fillRect(bounds, BackColor.get().rgb());
+  painter.text({bounds.x + 10, bounds.y + 3, bounds.w - 20, std::round(lineHeight(font()))}, caption, font(),
+               ink(), Align::Left);
+  drawBorder(painter, bounds, border());
 }
 
 void Label::draw(Painter& painter, const Rect& bounds) const {

@@ -7,7 +7,7 @@
 
 namespace tombolario {
 
-/// A plain ground for other controls. An etched one carries its caption in its edge.
+/// A plain ground for other controls, its caption in the top left corner.
 class Frame : public Control {
  public:
   Frame(Control& parent, Name name, Box box, const Look& look, std::string caption = "")

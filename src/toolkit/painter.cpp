@@ -233,6 +233,16 @@ void Painter::push(const Place& place) {
 
 void Painter::enter(const Rect& rect) { push(area(rect)); }
 
+void Painter::enterPlain(const Rect& rect) {
+  const auto& [x, y] = places_.back();
+  const auto reaching = [this](const Stretch& along, double from, double length) {
+    Stretch part = Painter::part(along, from, length);
+    part.end = std::max(part.end, edged(along, from, length).end);
+    return part;
+  };
+  push({reaching(x, rect.x, rect.w), reaching(y, rect.y, rect.h)});
+}
+
 void Painter::enterEdged(const Rect& rect) {
   const auto& [x, y] = places_.back();
   push({edged(x, rect.x, rect.w), edged(y, rect.y, rect.h)});

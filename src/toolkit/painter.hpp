@@ -89,6 +89,8 @@ class Painter {
   /// The same for what has lines along its edges: its last lines begin where their pixels begin, so that what
   /// overlaps it by a pixel shares the line.
   void enterEdged(const Rect& rect);
+  /// The same for what has no lines, and may lie against both kinds: it reaches as far as either would.
+  void enterPlain(const Rect& rect);
   /// The same for what lies within one line along the inside of the rectangle.
   void enterInside(const Rect& rect);
   void leave();
