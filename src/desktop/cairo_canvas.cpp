@@ -1,9 +1,37 @@
 #include "desktop/cairo_canvas.hpp"
 
+#include <cmath>
 #include <numbers>
 #include <utility>
 
 namespace tombolario {
+
+namespace {
+
+/// A colour by channels from 0 to 1, as Cairo takes it.
+struct Channels {
+  explicit constexpr Channels(Rgb colour)
+      : red((colour >> 16 & 0xFF) / 255.0),
+        green((colour >> 8 & 0xFF) / 255.0),
+        blue((colour & 0xFF) / 255.0) {}
+  double red, green, blue;
+};
+
+Owned<cairo_pattern_t> patternOf(const Gradient& gradient) {
+  const auto& [shape, from, to, colours] = gradient;
+  Owned<cairo_pattern_t> pattern(shape == Gradient::Shape::Linear
+                                     ? cairo_pattern_create_linear(from.x, from.y, to.x, to.y)
+                                     : cairo_pattern_create_radial(from.x, from.y, 0, from.x, from.y,
+                                                                   std::hypot(to.x - from.x, to.y - from.y)));
+  const double steps = static_cast<double>(colours.size()) - 1;
+  for (double step = 0; const Rgb colour : colours) {
+    const Channels c(colour);
+    cairo_pattern_add_color_stop_rgb(pattern.get(), step++ / steps, c.red, c.green, c.blue);
+  }
+  return pattern;
+}
+
+}  // namespace
 
 CairoFonts::CairoFonts() : context_(pango_font_map_create_context(pango_cairo_font_map_get_default())) {
   cairo_font_options_t* options = cairo_font_options_create();
@@ -46,8 +74,8 @@ cairo_surface_t* CairoCanvas::surface() const {
 }
 
 void CairoCanvas::ink(Rgb colour, double opacity) {
-  cairo_set_source_rgba(cairo_.get(), (colour >> 16 & 0xFF) / 255.0, (colour >> 8 & 0xFF) / 255.0,
-                        (colour & 0xFF) / 255.0, opacity);
+  const Channels c(colour);
+  cairo_set_source_rgba(cairo_.get(), c.red, c.green, c.blue, opacity);
 }
 
 void CairoCanvas::trace(std::span<const Vec> points) {
@@ -68,6 +96,12 @@ void CairoCanvas::fillRect(const Rect& rect, Rgb colour) {
 
 void CairoCanvas::fillPolygon(std::span<const Vec> points, Rgb colour) {
   ink(colour);
+  trace(points);
+  cairo_fill(cairo_.get());
+}
+
+void CairoCanvas::fillPolygon(std::span<const Vec> points, const Gradient& gradient) {
+  cairo_set_source(cairo_.get(), patternOf(gradient).get());
   trace(points);
   cairo_fill(cairo_.get());
 }

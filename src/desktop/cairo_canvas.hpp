@@ -12,6 +12,7 @@ namespace tombolario {
 struct CairoDeleter {
   void operator()(cairo_t* context) const { cairo_destroy(context); }
   void operator()(cairo_surface_t* surface) const { cairo_surface_destroy(surface); }
+  void operator()(cairo_pattern_t* pattern) const { cairo_pattern_destroy(pattern); }
   void operator()(PangoFontDescription* font) const { pango_font_description_free(font); }
   template <class Object>
   void operator()(Object* object) const {
@@ -49,6 +50,7 @@ class CairoCanvas : public Canvas {
   void startAt(Vec origin) override;
   void fillRect(const Rect& rect, Rgb colour) override;
   void fillPolygon(std::span<const Vec> points, Rgb colour) override;
+  void fillPolygon(std::span<const Vec> points, const Gradient& gradient) override;
   void strokePolygon(std::span<const Vec> points, Rgb colour, double width) override;
   void fillEllipse(Vec centre, Vec radii, Rgb colour) override;
   void line(Vec from, Vec to, Rgb colour, double width) override;

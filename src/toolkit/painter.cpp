@@ -90,6 +90,11 @@ void Painter::fillPolygon(std::span<const Vec> points, Rgb colour) {
   canvas_.fillPolygon(device(points), colour);
 }
 
+void Painter::fillPolygon(std::span<const Vec> points, const Gradient& gradient) {
+  canvas_.fillPolygon(device(points),
+                      {gradient.shape, device(gradient.from), device(gradient.to), gradient.colours});
+}
+
 void Painter::outlinePolygon(std::span<const Vec> points, Rgb colour, double width) {
   canvas_.strokePolygon(device(points), colour, width * scale());
 }

@@ -61,6 +61,7 @@ class Painter {
   /// A frame of that line width inside the rectangle; never thinner than one device pixel.
   void outlineRect(const Rect& rect, Rgb colour, double width);
   void fillPolygon(std::span<const Vec> points, Rgb colour);
+  void fillPolygon(std::span<const Vec> points, const Gradient& gradient);
   /// A closed line through the points, half of its width on either side.
   void outlinePolygon(std::span<const Vec> points, Rgb colour, double width);
   void fillEllipse(const Rect& bounds, Rgb colour);
