@@ -11,6 +11,7 @@ class NullCanvas : public Canvas {
   void startAt(Vec) override {}
   void fillRect(const Rect&, Rgb) override {}
   void fillPolygon(std::span<const Vec>, Rgb) override {}
+  void fillPolygon(std::span<const Vec>, const Gradient&) override {}
   void strokePolygon(std::span<const Vec>, Rgb, double) override {}
   void fillEllipse(Vec, Vec, Rgb) override {}
   void line(Vec, Vec, Rgb, double) override {}

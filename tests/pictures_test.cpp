@@ -165,7 +165,7 @@ TEST(Pictures, ShowTheirGroundAndInk) {
                                {"PICMAH(4)", {kBlue, kCyan}},
                                {"PICMAH(8)", {kWhite, kBlue}},
                                {"PICMAH(12)", {0xFF00FF, kWhite}},
-                               {"PICMAH(14)", {kGreen, kWhite}},
+                               {"PICMAH(14)", {0x009000, kWhite}},
                                {"PICMAH(17)", {kBlue, kWhite, kRed}},
                                {"PICMAH(84)", {kRed, kBlack}},
                                {"PICMAH(0)", {kBlue, kRed, kWhite}},

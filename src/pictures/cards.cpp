@@ -6,10 +6,13 @@
 
 #include "pictures/catalogue.hpp"
 #include "pictures/lettering.hpp"
+#include "pictures/outline.hpp"
 
 namespace tombolario::pictures {
 
 namespace {
+
+using std::numbers::pi;
 
 /// The colours of a pack.
 using Suits = Slots<Rgb, 0, kSuits - 1>;
@@ -33,25 +36,57 @@ constexpr Suits kPokerSuits{0xFF00FF, 0xFF8040, 0xFFFFB3, kBlue};
 constexpr Size kRaminoCard{40, 59};
 constexpr Suits kRaminoSuits{0x008000, 0xF0BC09, 0xFF0080, 0x800000};
 
-/// A ball of many gores that meet a little above its middle, with a light on it.
-void drawBall(Painter& painter, Vec centre, double radius) {
-  constexpr std::array<Rgb, 8> kGores{kRed, 0xFF8040, kYellow, kGreen, 0x00E8E8, kBlue, 0x8000FF, 0xFF00FF};
-  constexpr int kSteps = 6;
-  const double outline = radius + 1;
-  painter.fillEllipse({centre.x - outline, centre.y - outline, 2 * outline, 2 * outline}, kBlack);
-  const Vec pole{centre.x - radius * 0.2, centre.y - radius * 0.25};
-  for (std::size_t gore = 0; gore < kGores.size(); ++gore) {
-    std::array<Vec, kSteps + 2> points{pole};
-    for (int step = 0; step <= kSteps; ++step) {
-      const double turn = (static_cast<double>(gore) + step * 1.0 / kSteps) / kGores.size();
-      const double angle = 2 * std::numbers::pi * turn;
-      points.at(static_cast<std::size_t>(step) + 1) = {centre.x + radius * std::cos(angle),
-                                                       centre.y + radius * std::sin(angle)};
-    }
-    painter.fillPolygon(points, kGores.at(gore));
+/// A colour with that share of another.
+Rgb mixed(Rgb colour, Rgb other, double share) {
+  Rgb mix = 0;
+  for (const unsigned shift : {16U, 8U, 0U}) {
+    const double from = colour >> shift & 0xFF;
+    const double to = other >> shift & 0xFF;
+    mix |= static_cast<Rgb>(std::lround(from + (to - from) * share)) << shift;
   }
-  const double light = radius * 0.24;
-  painter.fillEllipse({pole.x - light, pole.y - light, 2 * light, 2 * light}, kWhite);
+  return mix;
+}
+
+/// One of the gores of a ball whose pole leans upwards, away from who looks: between two meridians, from the
+/// pole to where they go round to the far side.
+Outline gore(Vec centre, double radius, double from, double to) {
+  constexpr double kLean = 0.6;
+  constexpr int kSteps = 32;
+  const auto at = [&](double meridian, double shareOfSeen) {
+    const double seen = std::atan2(std::cos(kLean), std::cos(meridian) * std::sin(kLean));
+    const double angle = seen * shareOfSeen;
+    const double up =
+        std::cos(angle) * std::sin(kLean) + std::sin(angle) * std::cos(meridian) * std::cos(kLean);
+    return Vec{centre.x + radius * std::sin(angle) * std::sin(meridian), centre.y - radius * up};
+  };
+  Outline outline(at(from, 0));
+  for (int step = 1; step <= kSteps; ++step) outline.lineTo(at(from, 1.0 * step / kSteps));
+  for (int step = 1; step <= kSteps; ++step) outline.lineTo(at(from + (to - from) * step / kSteps, 1));
+  for (int step = kSteps; step > 0; --step) outline.lineTo(at(to, 1.0 * step / kSteps));
+  return outline;
+}
+
+/// A ball of many colours in a light from the upper left.
+void drawBall(Painter& painter, Vec centre, double radius) {
+  constexpr std::array<Rgb, 8> kGores{kBlue, 0x00E8E8, kGreen, kYellow, 0xFF8040, kRed, 0xFF00FF, 0x8000FF};
+  constexpr double kWidth = 2 * pi / kGores.size();
+  constexpr double kTurn = 0.5;
+  const Vec light{centre.x - radius * 0.4, centre.y - radius * 0.4};
+  const Vec shade{centre.x + radius * 0.75, centre.y + radius * 0.75};
+  double from = 0;
+  for (const Rgb colour : kGores) {
+    const double to = from + kWidth;
+    // A little under the next one, or the ground would shine through between them.
+    painter.fillPolygon(
+        gore(centre, radius, from, to + 0.02).turned(centre, kTurn),
+        {Gradient::Shape::Radial, light, shade,
+         std::array{mixed(colour, kWhite, 0.25), colour, colour, mixed(colour, kBlack, 0.5)}});
+    from = to;
+  }
+  painter.outlinePolygon(circle(centre, radius), kBlack, 1.5);
+  painter.fillPolygon(
+      ellipse({centre.x - radius * 0.66, centre.y}, {radius * 0.09, radius * 0.2}).turned(centre, 0.25 * pi),
+      kWhite);
 }
 
 void drawJoker(Painter& painter) {
@@ -59,7 +94,7 @@ void drawJoker(Painter& painter) {
   painter.fillRect(all, kWhite);
   painter.outlineRect(all, 0xFF8040, 5);
   fittedText(painter, {9, 11, 52, 20}, "Joker", lettering(12), kBlack);
-  drawBall(painter, {35, 58}, 21);
+  drawBall(painter, {35, 58.5}, 21.5);
 }
 
 void drawVideoPokerCard(Painter& painter, int card) {

@@ -1,69 +1,84 @@
-#include <array>
-#include <span>
+#include <numbers>
 
 #include "pictures/catalogue.hpp"
+#include "pictures/outline.hpp"
 #include "toolkit/painter.hpp"
 
 namespace tombolario::pictures {
 
 namespace {
 
+using std::numbers::pi;
+
 constexpr Size kCursorSize{32, 32};
 constexpr Rgb kCuff = 0x303048;
 
-/// A stroke with round ends: one finger.
-struct Finger {
-  Vec from;
-  Vec to;
-  double width;
-};
-
-void drawFinger(Painter& painter, const Finger& f, double grow, Rgb colour) {
-  const double w = f.width + 2 * grow;
-  painter.line(f.from, f.to, colour, w);
-  for (const Vec end : {f.from, f.to}) painter.fillEllipse({end.x - w / 2, end.y - w / 2, w, w}, colour);
+/// White in the black line that all of a cursor is drawn with.
+void drawPart(Painter& painter, const Outline& outline) {
+  painter.fillPolygon(outline, kWhite);
+  painter.outlinePolygon(outline, kBlack, 1);
 }
 
-/// A white hand of fingers with one dark outline around them all, on a cuff.
-void drawHand(Painter& painter, std::span<const Finger> fingers, const Rect& cuff) {
-  painter.fillRect(cuff.inset(-1), kBlack);
+void drawCuff(Painter& painter, const Rect& cuff) {
   painter.fillRect(cuff, kCuff);
-  for (const Finger& finger : fingers) drawFinger(painter, finger, 1.1, kBlack);
-  for (const Finger& finger : fingers) drawFinger(painter, finger, 0, kWhite);
+  painter.outlineRect(cuff, kBlack, 1);
+}
+
+/// A finger's tip between those two sides.
+void addTip(Outline& hand, double left, double right, double top) {
+  const double radius = (right - left) / 2;
+  hand.arc({left + radius, top + radius}, {radius, radius}, pi, 2 * pi);
 }
 
 void drawCrease(Painter& painter, double x, double top, double bottom) {
-  painter.line({x, top}, {x, bottom}, kBlack, 0.9);
+  painter.line({x, top}, {x, bottom}, kBlack, 1);
 }
 
 /// The forefinger points up; the other fingers are bent.
 void drawPointingHand(Painter& painter, int) {
-  constexpr std::array kFingers{Finger{{12, 3.3}, {12, 19}, 4.2},      Finger{{16, 11.5}, {16, 19}, 4},
-                                Finger{{19.9, 12.5}, {19.9, 19}, 3.9}, Finger{{23.4, 14.2}, {23.4, 19}, 3.5},
-                                Finger{{7, 15.5}, {11.5, 21}, 3.8},    Finger{{14, 20.5}, {21, 20.5}, 8},
-                                Finger{{15.5, 23.5}, {20.2, 23.5}, 6}};
-  drawHand(painter, kFingers, {12, 26, 12, 5});
-  drawCrease(painter, 14.05, 11, 17);
-  drawCrease(painter, 17.95, 11.6, 17);
-  drawCrease(painter, 21.75, 13, 17);
+  Outline hand({12.5, 27});
+  hand.curveTo({12.5, 24}, {10.5, 23}, {8.5, 20.5})
+      .lineTo({5.2, 16.2})
+      .curveTo({3.8, 14.2}, {6.2, 12.6}, {7.8, 14.2})
+      .lineTo({10.5, 17});
+  addTip(hand, 10.5, 14.5, 1.5);
+  addTip(hand, 14.5, 18.5, 9.5);
+  addTip(hand, 18.5, 22.5, 10.5);
+  addTip(hand, 22.5, 25.5, 12.5);
+  hand.lineTo({25.5, 19}).curveTo({25.5, 23}, {22.5, 23.5}, {22.5, 27});
+  drawPart(painter, hand);
+  drawCrease(painter, 14.5, 10, 17);
+  drawCrease(painter, 18.5, 11, 17);
+  drawCrease(painter, 22.5, 12, 17);
+  drawCuff(painter, {11, 26, 13, 5});
 }
 
 /// All fingers are bent, the thumb lies across.
 void drawClosedHand(Painter& painter, int) {
-  constexpr std::array kFingers{Finger{{9.5, 10}, {9.5, 17}, 4.6},    Finger{{14, 8.6}, {14, 17}, 4.6},
-                                Finger{{18.5, 8.6}, {18.5, 17}, 4.6}, Finger{{22.8, 10}, {22.8, 17}, 4.4},
-                                Finger{{12, 19}, {20.5, 19}, 9},      Finger{{13.5, 22.5}, {19, 22.5}, 6},
-                                Finger{{7.5, 17}, {10, 20}, 4.6}};
-  drawHand(painter, kFingers, {11, 26, 11, 5});
-  for (const double x : {11.75, 16.25, 20.7}) drawCrease(painter, x, 8.5, 14.5);
-  painter.line({10, 17.6}, {16.5, 16.6}, kBlack, 0.9);
+  Outline hand({11.5, 27});
+  hand.curveTo({11.5, 24}, {6, 23.5}, {6, 18.5}).lineTo({8.5, 16.5});
+  addTip(hand, 8.5, 12.5, 8.5);
+  addTip(hand, 12.5, 16.5, 7.5);
+  addTip(hand, 16.5, 20.5, 7.5);
+  addTip(hand, 20.5, 24.5, 8.5);
+  hand.lineTo({24.5, 18}).curveTo({24.5, 23}, {21.5, 23}, {21.5, 27});
+  drawPart(painter, hand);
+  for (const double x : {12.5, 16.5, 20.5}) drawCrease(painter, x, 9, 16);
+  drawPart(painter, Outline({8, 20.5})
+                        .arc({8, 18.5}, {2.5, 2}, pi / 2, 3 * pi / 2)
+                        .arc({15, 18.5}, {2.5, 2}, -pi / 2, pi / 2));
+  drawCuff(painter, {10, 26, 13, 5});
 }
 
+/// The same on both sides of its axis.
 void drawArrow(Painter& painter, int) {
-  constexpr std::array<Vec, 7> kArrow{Vec{0.6, 1.2}, Vec{0.6, 21.5}, Vec{5.3, 17.2}, Vec{8.6, 24.8},
-                                      Vec{12, 23.3}, Vec{8.7, 15.9}, Vec{15.2, 15.7}};
-  painter.fillPolygon(kArrow, kWhite);
-  painter.outlinePolygon(kArrow, kBlack, 1.2);
+  drawPart(painter, Outline({0.5, 1.5})
+                        .lineTo({0.5, 21.3})
+                        .lineTo({4.95, 16.85})
+                        .lineTo({7.7, 23.5})
+                        .lineTo({10.95, 22.15})
+                        .lineTo({8.2, 15.5})
+                        .lineTo({14.5, 15.5}));
 }
 
 }  // namespace

@@ -1,16 +1,19 @@
 #include <array>
 #include <cmath>
 #include <numbers>
-#include <span>
+#include <string>
 
 #include "pictures/catalogue.hpp"
 #include "pictures/lettering.hpp"
+#include "pictures/outline.hpp"
 #include "pieces/mahjongg_set.hpp"
 #include "pieces/slots.hpp"
 
 namespace tombolario::pictures {
 
 namespace {
+
+using std::numbers::pi;
 
 constexpr Size kSize{32, 20};
 constexpr Rect kAll{0, 0, kSize.width, kSize.height};
@@ -22,8 +25,16 @@ constexpr Rgb kMagenta = 0xFF00FF;
 
 using Design = void (*)(Painter&);
 
-void disc(Painter& painter, Vec centre, double radius, Rgb colour) {
-  painter.fillEllipse({centre.x - radius, centre.y - radius, 2 * radius, 2 * radius}, colour);
+/// What the edge leaves of it.
+constexpr Rect kInside = kAll.inset(1);
+
+void disc(Painter& painter, double radius, Rgb colour) {
+  painter.fillPolygon(circle(kMiddle, radius), colour);
+}
+
+/// So far from the middle of the tile in that direction, in radians clockwise from the right.
+Vec around(double angle, double reach) {
+  return {kMiddle.x + reach * std::cos(angle), kMiddle.y + reach * std::sin(angle)};
 }
 
 /// Stripes that lean to the right, from edge to edge.
@@ -39,13 +50,14 @@ void diagonals(Painter& painter) {
   painter.leave();
 }
 
+/// As many of them each way as divide the inside evenly.
 template <Rgb kFirst, Rgb kSecond, int kColumns, int kRows>
 void checks(Painter& painter) {
-  constexpr double kWide = 1.0 * kSize.width / kColumns;
-  constexpr double kHigh = 1.0 * kSize.height / kRows;
+  constexpr double kWide = kInside.w / kColumns;
+  constexpr double kHigh = kInside.h / kRows;
   for (int row = 0; row < kRows; ++row) {
     for (int column = 0; column < kColumns; ++column) {
-      painter.fillRect({column * kWide, row * kHigh, kWide, kHigh},
+      painter.fillRect({kInside.x + column * kWide, kInside.y + row * kHigh, kWide, kHigh},
                        (row + column) % 2 == 0 ? kFirst : kSecond);
     }
   }
@@ -57,41 +69,36 @@ void margin(Painter& painter, Rgb field) {
   painter.fillRect(kAll.inset(3), field);
 }
 
-/// A white figure with a shade, which holds it on a bright field.
 template <char kDigit, Rgb kField>
 void numeral(Painter& painter) {
   margin(painter, kField);
-  const std::string digit(1, kDigit);
-  painter.text(kAll.movedBy(1, 0.7), digit, lettering(11), kBlack, Align::Centre);
-  painter.text(kAll, digit, lettering(11), kWhite, Align::Centre);
+  painter.text(kAll, std::string(1, kDigit), lettering(10), kWhite, Align::Centre);
 }
 
 template <Rgb kField, Rgb kFigure, int kHeight = kSize.height>
 void lozenge(Painter& painter) {
   constexpr double kHalf = kHeight / 2.0;
   painter.fillRect({0, 0, kSize.width, kHeight}, kField);
-  painter.fillPolygon(std::array<Vec, 4>{Vec{16, 1}, Vec{30, kHalf}, Vec{16, kHeight - 1}, Vec{2, kHalf}},
+  painter.fillPolygon(std::array<Vec, 4>{Vec{16, 3}, Vec{29, kHalf}, Vec{16, kHeight - 3}, Vec{3, kHalf}},
                       kFigure);
 }
 
 template <Rgb... kColours>
 void verticals(Painter& painter) {
-  constexpr std::array kRow{kColours...};
-  constexpr double kWide = 1.0 * kSize.width / kRow.size();
-  double x = 0;
-  for (const Rgb colour : kRow) {
-    painter.fillRect({x, 0, kWide, kAll.h}, colour);
+  constexpr double kWide = kInside.w / sizeof...(kColours);
+  double x = kInside.x;
+  for (const Rgb colour : {kColours...}) {
+    painter.fillRect({x, kInside.y, kWide, kInside.h}, colour);
     x += kWide;
   }
 }
 
 template <Rgb... kColours>
 void bands(Painter& painter) {
-  constexpr std::array kColumn{kColours...};
-  constexpr double kHigh = 1.0 * kSize.height / kColumn.size();
-  double y = 0;
-  for (const Rgb colour : kColumn) {
-    painter.fillRect({0, y, kAll.w, kHigh}, colour);
+  constexpr double kHigh = kInside.h / sizeof...(kColours);
+  double y = kInside.y;
+  for (const Rgb colour : {kColours...}) {
+    painter.fillRect({kInside.x, y, kInside.w, kHigh}, colour);
     y += kHigh;
   }
 }
@@ -106,94 +113,89 @@ void quarters(Painter& painter) {
 
 void cross(Painter& painter) {
   painter.fillRect(kAll, kBlue);
-  painter.fillRect({13, 2, 6, 16}, kWhite);
-  painter.fillRect({4, 7, 24, 6}, kWhite);
+  painter.fillRect({13, 3, 6, 14}, kWhite);
+  painter.fillRect({3, 7, 26, 6}, kWhite);
 }
 
-/// A star of five points.
-void star(Painter& painter, Vec centre, double radius, Rgb colour) {
-  std::array<Vec, 10> points{};
-  for (std::size_t i = 0; i < points.size(); ++i) {
-    const double angle = std::numbers::pi * (static_cast<double>(i) / 5 - 0.5);
-    const double reach = i % 2 == 0 ? radius : radius * 0.42;
-    points.at(i) = {centre.x + reach * std::cos(angle), centre.y + reach * std::sin(angle)};
-  }
-  painter.fillPolygon(points, colour);
+void medallion(Painter& painter, Rgb field, Rgb ground) {
+  margin(painter, field);
+  painter.fillPolygon(ellipse(kMiddle, {11, 6}), ground);
 }
 
 void starOnGreen(Painter& painter) {
-  margin(painter, kGreen);
-  painter.fillEllipse({5.5, 3.4, 21, 13.2}, kDarkRed);
-  star(painter, {16, 10.3}, 6.2, kYellow);
+  medallion(painter, kGreen, kDarkRed);
+  painter.fillPolygon(star({kMiddle.x, kMiddle.y + 0.5}, 5, 2.2, 5.5), kYellow);
 }
 
+/// Two petals behind a third, on a stem between two leaves.
 void tulipOnBlue(Painter& painter) {
-  margin(painter, kBlue);
-  painter.fillEllipse({5.5, 3.4, 21, 13.2}, kWhite);
-  painter.fillRect({15.2, 10, 1.6, 6}, 0x008030);
-  painter.fillPolygon(std::array<Vec, 7>{Vec{12.5, 5.2}, Vec{14.2, 7.4}, Vec{16, 4.6}, Vec{17.8, 7.4},
-                                         Vec{19.5, 5.2}, Vec{18.8, 11}, Vec{13.2, 11}},
-                      kRed);
+  medallion(painter, kBlue, kWhite);
+  constexpr Rgb kLeaf = 0x008030;
+  const Vec foot{16, 15.6};
+  painter.fillPolygon(Outline({15.5, 9}).lineTo({15.5, foot.y}).mirrored(16), kLeaf);
+  for (const double side : {-1.0, 1.0}) {
+    const auto at = [&](double x, double y) { return Vec{foot.x + side * x, y}; };
+    painter.fillPolygon(Outline(foot)
+                            .curveTo(at(3.5, 15.2), at(5.4, 13), at(5.8, 10))
+                            .curveTo(at(3, 10.6), at(0.6, 12.5), foot),
+                        kLeaf);
+  }
+  painter.fillPolygon(Outline({16, 10.8})
+                          .curveTo({13, 10.8}, {11.8, 8.2}, {12.6, 4.6})
+                          .curveTo({14, 5.2}, {15.2, 6.2}, {16, 7.4})
+                          .mirrored(16),
+                      0xC00020);
+  painter.fillPolygon(Outline({16, 10.8}).curveTo({13.6, 9.8}, {13.6, 6.4}, {16, 4.4}).mirrored(16),
+                      0xFF3040);
 }
 
-/// Between two colours, each channel by itself.
-Rgb between(Rgb from, Rgb to, double share) {
-  Rgb mixed = 0;
-  for (const unsigned shift : {16U, 8U, 0U}) {
-    const double a = from >> shift & 0xFF;
-    const double b = to >> shift & 0xFF;
-    mixed |= static_cast<Rgb>(std::lround(a + (b - a) * share)) << shift;
-  }
-  return mixed;
-}
-
-/// A ball: from its rim to a light, one shade inside the other.
-void ball(Painter& painter, Vec centre, double radius, Rgb rim, Rgb light) {
-  constexpr int kShades = 9;
-  for (int shade = 0; shade < kShades; ++shade) {
-    const double share = 1.0 * shade / (kShades - 1);
-    const double offset = radius * 0.35 * share;
-    disc(painter, {centre.x - offset, centre.y - offset}, radius * (1 - 0.85 * share),
-         between(rim, light, share));
-  }
+/// A round thing in a light from the upper left.
+template <std::size_t kShades>
+void ball(Painter& painter, double radius, const std::array<Rgb, kShades>& shades) {
+  constexpr double kLight = 1.25 * pi;
+  painter.fillPolygon(circle(kMiddle, radius), {Gradient::Shape::Radial, around(kLight, 0.45 * radius),
+                                                around(kLight, -radius), shades});
 }
 
 /// A sun with its rays.
 void sun(Painter& painter) {
   painter.fillRect(kAll, kCyan);
-  for (int ray = 0; ray < 12; ++ray) {
-    const double angle = std::numbers::pi * ray / 6;
-    const auto at = [&](double turn, double reach) {
-      return Vec{kMiddle.x + reach * std::cos(angle + turn), kMiddle.y + reach * std::sin(angle + turn)};
-    };
-    painter.fillPolygon(std::array<Vec, 3>{at(-0.2, 5), at(0, 9.5), at(0.2, 5)}, kOrange);
-  }
-  ball(painter, kMiddle, 6.5, kRed, kYellow);
+  painter.fillPolygon(star(kMiddle, 8, 4.6, 7), 0xFF6000);
+  ball(painter, 4.3, std::array<Rgb, 3>{0xFFFFC0, kYellow, 0xFF6000});
 }
 
 void globe(Painter& painter) {
   painter.fillRect(kAll, 0x004020);
-  ball(painter, kMiddle, 9, 0x2040A0, kWhite);
+  ball(painter, 7, std::array<Rgb, 4>{kWhite, 0x90B0F0, 0x3058C0, 0x182860});
 }
 
+/// Four petals over the gaps between four darker ones.
 void rose(Painter& painter) {
   painter.fillRect(kAll, kYellow);
-  for (int petal = 0; petal < 8; ++petal) {
-    const double angle = std::numbers::pi * petal / 4;
-    ball(painter, {kMiddle.x + 5.5 * std::cos(angle), kMiddle.y + 5.5 * std::sin(angle)}, 3.6, 0x700060,
-         0xFFB0F0);
-  }
-  ball(painter, kMiddle, 3.5, kDarkRed, kOrange);
+  const auto petals = [&](double first, double reach, const std::array<Rgb, 3>& shades) {
+    for (int petal = 0; petal < 4; ++petal) {
+      painter.fillPolygon(
+          ellipse({kMiddle.x + reach - 2.8, kMiddle.y}, {2.8, 2.4}).turned(kMiddle, first + petal * pi / 2),
+          {Gradient::Shape::Radial, kMiddle, around(0, reach), shades});
+    }
+  };
+  petals(pi / 4, 6.4, {0x400030, 0x800068, 0xA83090});
+  petals(0, 7, {0x600050, 0xD030B0, 0xFF98E0});
+  ball(painter, 2.5, std::array<Rgb, 3>{0xFFE060, kOrange, kDarkRed});
 }
 
-/// A house in a ring of blue and red.
+/// A spade in a ring of blue and red.
 void ring(Painter& painter) {
   painter.fillRect(kAll, kWhite);
-  disc(painter, kMiddle, 9.5, kBlue);
-  disc(painter, kMiddle, 7.8, kRed);
-  disc(painter, kMiddle, 6.2, kWhite);
-  painter.fillPolygon(std::array<Vec, 3>{Vec{16, 5}, Vec{20.5, 9.5}, Vec{11.5, 9.5}}, kBlack);
-  painter.fillRect({13, 9.5, 6, 4.5}, kBlack);
+  disc(painter, 8, kBlue);
+  disc(painter, 6.7, kRed);
+  disc(painter, 5.4, kWhite);
+  painter.fillPolygon(Outline({16, 6})
+                          .curveTo({15.4, 7.8}, {12.4, 8.8}, {12.4, 10.9})
+                          .curveTo({12.4, 12.8}, {14.8, 13}, {15.6, 11.6})
+                          .curveTo({15.5, 12.8}, {15, 13.4}, {14, 13.9})
+                          .mirrored(16),
+                      kBlack);
 }
 
 /// By kind, at the size of the bench.
@@ -201,20 +203,20 @@ constexpr Slots<Design, 0, kKinds - 1> kDesigns = slots<0, Design>({
     ring,
     sun,
     diagonals<kYellow, kBlack>,
-    checks<0xFFF0C8, kDarkRed, 4, 4>,
-    checks<kBlue, kCyan, 8, 4>,
+    checks<0xFFF0C8, kDarkRed, 5, 3>,
+    checks<kBlue, kCyan, 10, 6>,
     numeral<'1', kDarkRed>,
     numeral<'2', kRed>,
     numeral<'3', 0xB09000>,
     cross,
     numeral<'4', kBlue>,
     lozenge<kWhite, kRed>,
-    verticals<kRed, kYellow, kRed, kYellow>,
+    verticals<kRed, kYellow, kRed, kYellow, kRed>,
     numeral<'5', kMagenta>,
     lozenge<kBlue, kYellow>,
-    numeral<'6', kGreen>,
+    numeral<'6', 0x009000>,
     bands<kGreen, kWhite, kRed>,
-    checks<kOrange, kYellow, 4, 2>,
+    checks<kOrange, kYellow, 3, 2>,
     verticals<kBlue, kWhite, kRed>,
     lozenge<kOrange, kWhite>,
     quarters<kRed, kYellow, kBlue, kGreen>,
@@ -227,7 +229,7 @@ constexpr Slots<Design, 0, kKinds - 1> kDesigns = slots<0, Design>({
     bands<kCyan, kBlack>,
     rose,
     quarters<kBlack, kWhite, kWhite, kBlack>,
-    bands<kOrange, kBlue, kOrange, kBlue>,
+    bands<kOrange, kBlue, kOrange>,
 });
 
 /// The rows 5 to 28 of the bench show the pictures of its store from the last to the sixth.

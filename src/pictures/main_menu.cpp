@@ -3,6 +3,7 @@
 
 #include "pictures/catalogue.hpp"
 #include "pictures/lettering.hpp"
+#include "pictures/outline.hpp"
 
 namespace tombolario::pictures {
 
@@ -20,11 +21,15 @@ void drawGame(Painter& painter, int index) {
              kGames.at(static_cast<std::size_t>(index - 1)), font, kWhite, Align::Left);
 }
 
-/// A red diamond on white, in a black border.
+/// A red diamond on white, in a black border: taller than wide, its sides drawn in a little.
 void drawDiamond(Painter& painter, int) {
   painter.fillRect({0, 0, 100, 100}, kWhite);
   painter.outlineRect({0, 0, 100, 100}, kBlack, 3);
-  painter.fillPolygon(std::array<Vec, 4>{Vec{50, 12}, Vec{88, 50}, Vec{50, 88}, Vec{12, 50}}, kRed);
+  painter.fillPolygon(Outline({50, 9})
+                          .curveTo({59, 24.5}, {70, 37.5}, {83, 50})
+                          .curveTo({70, 62.5}, {59, 75.5}, {50, 91})
+                          .mirrored(50),
+                      kRed);
 }
 
 constexpr Size kOrnamentSize{100, 100};

@@ -1,8 +1,10 @@
 #include <array>
+#include <numbers>
 #include <string>
 
 #include "pictures/catalogue.hpp"
 #include "pictures/lettering.hpp"
+#include "pictures/outline.hpp"
 #include "pictures/score_table.hpp"
 #include "pieces/pay_tables.hpp"
 
@@ -10,23 +12,36 @@ namespace tombolario::pictures {
 
 namespace {
 
+using std::numbers::pi;
+
 constexpr Size kBackSize{72, 94};
 
-/// A grey flying saucer with a dome and three lights, tilted on its way over a yellow ground.
+/// A figure in that colour or gradient, in the outline that all parts of a saucer have.
+template <class Paint>
+void drawPart(Painter& painter, const Outline& outline, const Paint& paint) {
+  painter.fillPolygon(outline, paint);
+  painter.outlinePolygon(outline, kBlack, 1.6);
+}
+
+/// A grey flying saucer with a dome, lights and three feet over a yellow ground.
 void drawSaucer(Painter& painter, int) {
+  constexpr Rgb kGrey = 0x808080;
+  constexpr Rgb kBelly = 0x606060;
+  constexpr std::array<Rgb, 3> kGlass{kWhite, 0xE0E0E0, 0x989898};
+  constexpr std::array<Rgb, 3> kShell{0xE8E8E8, 0xB8B8B8, 0x707070};
   painter.fillRect({0, 0, kBackSize.width, kBackSize.height}, kYellow);
-  painter.fillEllipse({22, 26, 28, 30}, kBlack);
-  painter.fillEllipse({23.5, 27.5, 25, 27}, 0xE0E0E0);
-  painter.fillEllipse({28, 31, 8, 9}, kWhite);
-  painter.fillPolygon(std::array<Vec, 4>{Vec{20, 58}, Vec{24, 57}, Vec{18, 72}, Vec{14, 72}}, 0x808080);
-  painter.fillPolygon(std::array<Vec, 4>{Vec{48, 57}, Vec{52, 58}, Vec{58, 72}, Vec{54, 72}}, 0x808080);
-  painter.fillEllipse({4, 40, 64, 24}, kBlack);
-  painter.fillEllipse({5.5, 41.5, 61, 21}, 0x808080);
-  painter.fillEllipse({7, 41.5, 58, 16}, 0xB8B8B8);
-  painter.fillEllipse({21, 43, 30, 8}, 0x606060);
-  painter.fillEllipse({23.5, 40, 25, 9}, 0xE0E0E0);
-  for (const double x : {13.0, 32.5, 52.0}) {
-    painter.fillEllipse({x, 52.5, 7, 5}, 0x404040);
+  for (const double side : {-1.0, 1.0}) {
+    const auto at = [side](double x, double y) { return Vec{36 + side * x, y}; };
+    drawPart(painter, Outline(at(8, 56)).lineTo(at(13, 56)).lineTo(at(20.5, 68)).lineTo(at(17, 68)), kGrey);
+    drawPart(painter, Outline(at(14, 69)).arc(at(18.5, 69), {4.5, 3}, pi, 2 * pi), kGrey);
+  }
+  drawPart(painter, ellipse({36, 54.5}, {16, 7}), kBelly);
+  drawPart(painter, ellipse({36, 49}, {28, 9}),
+           Gradient{Gradient::Shape::Linear, {36, 40}, {36, 58}, kShell});
+  drawPart(painter, Outline({23, 43}).arc({36, 41}, {13, 15}, pi, 2 * pi).arc({36, 43}, {13, 4}, 0, pi),
+           Gradient{Gradient::Shape::Radial, {31, 33}, {47, 45}, kGlass});
+  for (const Vec& light : {Vec{16, 50.5}, Vec{36, 53.5}, Vec{56, 50.5}}) {
+    drawPart(painter, ellipse(light, {3, 2.2}), kYellow);
   }
 }
 

@@ -55,19 +55,19 @@ void drawSwap(Painter& painter, int) {
   drawArrow(painter, {6, 20.5}, {40, 20.5}, 11, kBlack);
 }
 
-/// A band of small squares above the names.
+/// A band of small squares above the names, as far from the lines on all sides.
 void drawScore(Painter& painter, int) {
   scoreCorner(painter, "", {kBlack, kYellow});
   scoreNames(painter, {kWhite, kRed}, {kWhite, kRed});
   scoreColumn(painter, 0, "PUNTI", {kBlack, 0xFFFFBF}, 0x0080FF);
-  constexpr int kSquare = 8;
-  painter.enter({1, 1, kNamesWidth - 2, 19});
-  for (int row = 0; row * kSquare < 19; ++row) {
-    for (int column = row % 2; column * kSquare < kNamesWidth; column += 2) {
-      painter.fillRect({1.0 * column * kSquare, 1.0 * row * kSquare, kSquare, kSquare}, kGreen);
+  constexpr int kSquare = 5;
+  constexpr int kRows = 3;
+  constexpr int kColumns = 19;
+  for (int row = 0; row < kRows; ++row) {
+    for (int column = row % 2; column < kColumns; column += 2) {
+      painter.fillRect({3.0 + column * kSquare, 3.0 + row * kSquare, kSquare, kSquare}, kGreen);
     }
   }
-  painter.leave();
 }
 
 /// The names of the sides at the end of a hand, to lie over those of the table.

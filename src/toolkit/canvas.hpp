@@ -18,6 +18,16 @@ struct Typeface {
   constexpr bool operator==(const Typeface&) const = default;
 };
 
+/// Colours that pass into each other at even steps, the first at `from`, the last at `to`, in the coordinates
+/// of what is filled: along the line between the two, or all round `from`. Beyond them the end colours go on.
+struct Gradient {
+  enum class Shape : bool { Linear, Radial };
+  Shape shape;
+  Vec from;
+  Vec to;
+  std::span<const Rgb> colours;  ///< two or more
+};
+
 /// What a painter draws on: a device that draws where it is told, in its own pixels from its origin, and
 /// knows nothing of the room. Rectangles, clips and copies come on whole pixels.
 class Canvas {
@@ -31,6 +41,7 @@ class Canvas {
 
   virtual void fillRect(const Rect& rect, Rgb colour) = 0;
   virtual void fillPolygon(std::span<const Vec> points, Rgb colour) = 0;
+  virtual void fillPolygon(std::span<const Vec> points, const Gradient& gradient) = 0;
   /// Half of the closed line lies on either side of the points; its corners are round.
   virtual void strokePolygon(std::span<const Vec> points, Rgb colour, double width) = 0;
   virtual void fillEllipse(Vec centre, Vec radii, Rgb colour) = 0;

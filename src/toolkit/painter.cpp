@@ -170,6 +170,12 @@ void Painter::fillPolygon(std::span<const Vec> points, Rgb colour) {
   canvas_.fillPolygon(device(points), ink(colour));
 }
 
+void Painter::fillPolygon(std::span<const Vec> points, const Gradient& gradient) {
+  std::vector<Rgb> colours;
+  for (const Rgb colour : gradient.colours) colours.push_back(ink(colour));
+  canvas_.fillPolygon(device(points), {gradient.shape, device(gradient.from), device(gradient.to), colours});
+}
+
 void Painter::outlinePolygon(std::span<const Vec> points, Rgb colour, double width) {
   canvas_.strokePolygon(device(points), ink(colour), width * scale_);
 }

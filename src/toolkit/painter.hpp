@@ -70,6 +70,7 @@ class Painter {
   /// colour, right and bottom, with the corners that they share, in another.
   void bevel(const Rect& rect, int layer, Rgb leftTop, Rgb rightBottom);
   void fillPolygon(std::span<const Vec> points, Rgb colour);
+  void fillPolygon(std::span<const Vec> points, const Gradient& gradient);
   /// A closed line through the points, half of its width on either side.
   void outlinePolygon(std::span<const Vec> points, Rgb colour, double width);
   void fillEllipse(const Rect& bounds, Rgb colour);

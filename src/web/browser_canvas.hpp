@@ -12,6 +12,9 @@ void canvas_free(int canvas);
 void canvas_start_at(int canvas, double x, double y);
 void canvas_fill_rect(int canvas, double x, double y, double width, double height, Rgb colour);
 void canvas_fill_polygon(int canvas, const Vec* points, std::size_t count, Rgb colour);
+void canvas_fill_polygon_gradient(int canvas, const Vec* points, std::size_t count, bool radial, double fromX,
+                                  double fromY, double toX, double toY, const Rgb* colours,
+                                  std::size_t colourCount);
 void canvas_stroke_polygon(int canvas, const Vec* points, std::size_t count, Rgb colour, double width);
 void canvas_fill_ellipse(int canvas, double x, double y, double radiusX, double radiusY, Rgb colour);
 void canvas_line(int canvas, double fromX, double fromY, double toX, double toY, Rgb colour, double width);
@@ -47,6 +50,11 @@ class BrowserCanvas : public Canvas {
   }
   void fillPolygon(std::span<const Vec> points, Rgb colour) override {
     canvas_fill_polygon(handle_, points.data(), points.size(), colour);
+  }
+  void fillPolygon(std::span<const Vec> points, const Gradient& gradient) override {
+    const auto& [shape, from, to, colours] = gradient;
+    canvas_fill_polygon_gradient(handle_, points.data(), points.size(), shape == Gradient::Shape::Radial,
+                                 from.x, from.y, to.x, to.y, colours.data(), colours.size());
   }
   void strokePolygon(std::span<const Vec> points, Rgb colour, double width) override {
     canvas_stroke_polygon(handle_, points.data(), points.size(), colour, width);

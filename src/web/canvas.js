@@ -56,6 +56,21 @@ mergeInto(LibraryManager.library, {
     tracePolygon(context, points, count);
     context.fill();
   },
+  canvas_fill_polygon_gradient__deps: ['$contextOf', '$cssColour', '$tracePolygon'],
+  canvas_fill_polygon_gradient: function (
+    canvas, points, count, radial, fromX, fromY, toX, toY, colours, colourCount
+  ) {
+    const context = contextOf(canvas);
+    const gradient = radial
+      ? context.createRadialGradient(fromX, fromY, 0, fromX, fromY, Math.hypot(toX - fromX, toY - fromY))
+      : context.createLinearGradient(fromX, fromY, toX, toY);
+    for (let i = 0; i < colourCount; ++i) {
+      gradient.addColorStop(i / (colourCount - 1), cssColour(HEAPU32[(colours >> 2) + i]));
+    }
+    context.fillStyle = gradient;
+    tracePolygon(context, points, count);
+    context.fill();
+  },
   canvas_stroke_polygon__deps: ['$contextOf', '$cssColour', '$tracePolygon'],
   canvas_stroke_polygon: function (canvas, points, count, rgb, width) {
     const context = contextOf(canvas);
