@@ -112,13 +112,15 @@ Window::Window(Room& room) : form_(room.form()), view_(form_) {
   if (!initialize() || runsOn("offscreen")) {
     throw CannotOpen("Tombolario non può aprirsi: non c'è uno schermo che risponda.");
   }
+  Uint32 flags = SDL_WINDOW_RESIZABLE | SDL_WINDOW_ALLOW_HIGHDPI;
   if (runsOn("x11")) {
     // The window's own surface: nothing is gained from a graphics card here, and starting one takes long.
     SDL_SetHint(SDL_HINT_FRAMEBUFFER_ACCELERATION, "0");
+    // Nobody sees it empty. Elsewhere, a window is seen when it has been painted.
+    flags |= SDL_WINDOW_HIDDEN;
   }
   window_ = SDL_CreateWindow(form_.Caption.get().c_str(), SDL_WINDOWPOS_CENTERED, SDL_WINDOWPOS_CENTERED,
-                             form_.Width / kTwipsPerPixel, form_.Height / kTwipsPerPixel,
-                             SDL_WINDOW_RESIZABLE | SDL_WINDOW_ALLOW_HIGHDPI);
+                             form_.Width / kTwipsPerPixel, form_.Height / kTwipsPerPixel, flags);
   if (window_ == nullptr) throw noWindow();
   SDL_SetWindowMinimumSize(window_, form_.Width / kTwipsPerPixel / 3, form_.Height / kTwipsPerPixel / 3);
   showIcon();
@@ -127,6 +129,10 @@ Window::Window(Room& room) : form_(room.form()), view_(form_) {
 
 void Window::run() {
   show();
+  if ((SDL_GetWindowFlags(window_) & SDL_WINDOW_HIDDEN) != 0) {
+    SDL_ShowWindow(window_);
+    SDL_UpdateWindowSurface(window_);
+  }
   for (SDL_Event event; open_ && SDL_WaitEvent(&event) != 0;) {
     do {
       handle(event);
