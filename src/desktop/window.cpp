@@ -123,7 +123,6 @@ Window::Window(Room& room) : form_(room.form()), view_(form_) {
                              form_.Width / kTwipsPerPixel, form_.Height / kTwipsPerPixel, flags);
   if (window_ == nullptr) throw noWindow();
   SDL_SetWindowMinimumSize(window_, form_.Width / kTwipsPerPixel / 3, form_.Height / kTwipsPerPixel / 3);
-  showIcon();
   fit();
 }
 
@@ -133,6 +132,7 @@ void Window::run() {
     SDL_ShowWindow(window_);
     SDL_UpdateWindowSurface(window_);
   }
+  showIcon();  // after the room, which is waited for
   for (SDL_Event event; open_ && SDL_WaitEvent(&event) != 0;) {
     do {
       handle(event);
