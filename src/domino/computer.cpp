@@ -22,8 +22,8 @@ std::vector<std::int16_t> byCount(const Numbers<0, kNumbers - 1>& held) {
 }  // namespace
 
 std::optional<Choice> choose(const View& view, Level level) {
-  constexpr std::array<Placement, 4> kTried{
-      {{End::Right, false}, {End::Left, false}, {End::Right, true}, {End::Left, true}}};
+  constexpr std::array kTried{Placement{End::Right, false}, Placement{End::Left, false},
+                              Placement{End::Right, true}, Placement{End::Left, true}};
   for (const std::int16_t wanted : byCount(view.held)) {
     for (int slot = kFirstOfComputer; slot <= kLastOfComputer; ++slot) {
       if (!view.hand[slot]) continue;

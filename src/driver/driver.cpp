@@ -272,7 +272,7 @@ std::string Driver::dump(const Words&) {
   for (const Control* control : started().controls()) {
     if (!control->onView()) continue;
     lines += control->name().text();
-    for (const PropertyReader& property : kProperties) {
+    for (const PropertyReader& property : properties()) {
       lines += ' ';
       lines += property.name;
       lines += '=';

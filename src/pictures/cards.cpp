@@ -25,17 +25,18 @@ void drawCard(Painter& painter, int card, Size size, const Suits& suits, Rgb ink
 constexpr int kJoker = kPack;
 constexpr Size kVideoPokerCard{70, 92};
 constexpr Size kJokerCard{70, 93};
-constexpr Suits kVideoPokerSuits{kRed, kYellow, 0x00E8E8, kGreen};
+constexpr Suits kVideoPokerSuits = slots<0, Rgb>({kRed, kYellow, 0x00E8E8, kGreen});
 
 constexpr Size kPokerCard{70, 92};
-constexpr Suits kPokerSuits{0xFF00FF, 0xFF8040, 0xFFFFB3, kBlue};
+constexpr Suits kPokerSuits = slots<0, Rgb>({0xFF00FF, 0xFF8040, 0xFFFFB3, kBlue});
 
 constexpr Size kRaminoCard{40, 59};
-constexpr Suits kRaminoSuits{0x008000, 0xF0BC09, 0xFF0080, 0x800000};
+constexpr Suits kRaminoSuits = slots<0, Rgb>({0x008000, 0xF0BC09, 0xFF0080, 0x800000});
 
 /// A ball of many gores that meet a little above its middle, with a light on it.
 void drawBall(Painter& painter, Vec centre, double radius) {
-  constexpr std::array<Rgb, 8> kGores{kRed, 0xFF8040, kYellow, kGreen, 0x00E8E8, kBlue, 0x8000FF, 0xFF00FF};
+  constexpr auto kGores =
+      std::to_array<Rgb>({kRed, 0xFF8040, kYellow, kGreen, 0x00E8E8, kBlue, 0x8000FF, 0xFF00FF});
   constexpr int kSteps = 6;
   const double outline = radius + 1;
   painter.fillEllipse({centre.x - outline, centre.y - outline, 2 * outline, 2 * outline}, kBlack);

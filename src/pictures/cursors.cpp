@@ -60,8 +60,8 @@ void drawClosedHand(Painter& painter, int) {
 }
 
 void drawArrow(Painter& painter, int) {
-  constexpr std::array<Vec, 7> kArrow{Vec{0.6, 1.2}, Vec{0.6, 21.5}, Vec{5.3, 17.2}, Vec{8.6, 24.8},
-                                      Vec{12, 23.3}, Vec{8.7, 15.9}, Vec{15.2, 15.7}};
+  constexpr std::array kArrow{Vec{0.6, 1.2}, Vec{0.6, 21.5}, Vec{5.3, 17.2}, Vec{8.6, 24.8},
+                              Vec{12, 23.3}, Vec{8.7, 15.9}, Vec{15.2, 15.7}};
   painter.fillPolygon(kArrow, kWhite);
   painter.outlinePolygon(kArrow, kBlack, 1.2);
 }

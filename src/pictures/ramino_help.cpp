@@ -52,8 +52,8 @@ constexpr std::array kSeventh{Run("selezionata (in alternativa si può non scamb
                               Run(ramlas), Run(".")};
 constexpr std::array kLast{Run("Per vincere bisogna fare 3 tris.")};
 
-constexpr std::array<std::span<const Run>, 8> kLines{kFirst, kSecond, kThird,   kFourth,
-                                                     kFifth, kSixth,  kSeventh, kLast};
+constexpr auto kLines =
+    std::to_array<std::span<const Run>>({kFirst, kSecond, kThird, kFourth, kFifth, kSixth, kSeventh, kLast});
 
 double widthOf(Painter& painter, const Run& run) {
   if (run.picture != nullptr) return run.size().width;

@@ -1,3 +1,5 @@
+#include <array>
+#include <cstddef>
 #include <string>
 
 #include "pictures/catalogue.hpp"
@@ -58,9 +60,9 @@ void drawLitRow(Painter& painter, int row) {
 
 /// Vertical stripes, twelve pixels each.
 void drawStripes(Painter& painter, int) {
-  constexpr Slots<Rgb, 0, 3> kColours{kRed, kCyan, kBlue, kYellow};
-  for (int i = 0; i < 36; ++i) {
-    painter.fillRect({i * 12.0, 0, 12, 196}, kColours[i % 4]);
+  constexpr std::array kColours{kRed, kCyan, kBlue, kYellow};
+  for (std::size_t i = 0; i < 36; ++i) {
+    painter.fillRect({static_cast<double>(i) * 12, 0, 12, 196}, kColours.at(i % kColours.size()));
   }
 }
 
