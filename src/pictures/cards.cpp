@@ -2,6 +2,7 @@
 
 #include <array>
 #include <cmath>
+#include <cstddef>
 #include <numbers>
 
 #include "pictures/catalogue.hpp"
@@ -22,7 +23,6 @@ void drawCard(Painter& painter, int card, Size size, const Suits& suits, Rgb ink
              lettering(size.height * 0.36), ink);
 }
 
-constexpr int kJoker = kPack;
 constexpr Size kVideoPokerCard{70, 92};
 constexpr Size kJokerCard{70, 93};
 constexpr Suits kVideoPokerSuits = slots<0, Rgb>({kRed, kYellow, 0x00E8E8, kGreen});

@@ -16,17 +16,17 @@ struct LitRow {
   double middle;
   int height;
 };
-constexpr Slots<LitRow, 0, 10> kLitRows = slots<0, LitRow>({{9, 19},
-                                                            {7.7, 19},
-                                                            {6.9, 17},
-                                                            {8.5, 17},
-                                                            {8.6, 17},
-                                                            {8.3, 17},
-                                                            {8.5, 17},
-                                                            {8.8, 17},
-                                                            {8.5, 17},
-                                                            {8.2, 17},
-                                                            {10.3, 20}});
+constexpr Slots<LitRow, 0, kPayRows - 1> kLitRows = slots<0, LitRow>({{9, 19},
+                                                                      {7.7, 19},
+                                                                      {6.9, 17},
+                                                                      {8.5, 17},
+                                                                      {8.6, 17},
+                                                                      {8.3, 17},
+                                                                      {8.5, 17},
+                                                                      {8.8, 17},
+                                                                      {8.5, 17},
+                                                                      {8.2, 17},
+                                                                      {10.3, 20}});
 
 constexpr Size kPayTableSize{156, 191};
 
@@ -44,7 +44,7 @@ void drawPayRow(Painter& painter, int row) {
 
 void drawPayTable(Painter& painter, int) {
   painter.fillRect({0, 0, kPayTableSize.width, kPayTableSize.height}, kRed);
-  for (int row = 0; row < static_cast<int>(kPayTable.items.size()); ++row) {
+  for (int row = 0; row < kPayRows; ++row) {
     const double top = kPayTable[row].top / double{kTwipsPerPixel};
     painter.enter({0, top, kPayTableSize.width, static_cast<double>(kLitRows[row].height)});
     drawPayRow(painter, row);
@@ -69,9 +69,10 @@ void drawStripes(Painter& painter, int) {
 }  // namespace
 
 constinit const PictureStore Pictcomvidpok = singlePicture<kPayTableSize>("Pictcomvidpok", drawPayTable);
-constinit const PictureStore segn{"segn", 0, kPayTable.items.size(), true, litRowSize, drawLitRow};
+constinit const PictureStore segn{"segn", 0, kPayRows, true, litRowSize, drawLitRow};
 // These four are wider than the buttons that show them, 169 pixels.
 constexpr int kButtonRoom = 155;
+static_assert(kFee == 5, "CONTPOK1 names the fee");
 constinit const PictureStore CONTPOK1 =
     plateStore<"CONTINUA (-5)", Size{204, 18}, kRed, kCyan, kButtonRoom>("CONTPOK1");
 constinit const PictureStore CONTPOK2 =
