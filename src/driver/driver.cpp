@@ -5,11 +5,13 @@
 #include <cerrno>
 #include <charconv>
 #include <cmath>
+#include <cstddef>
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
 #include <istream>
 #include <ostream>
+#include <system_error>
 #include <utility>
 
 #include "driver/properties.hpp"

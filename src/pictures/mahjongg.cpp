@@ -1,7 +1,9 @@
 #include <array>
 #include <cmath>
+#include <cstddef>
 #include <numbers>
 #include <span>
+#include <string>
 
 #include "pictures/catalogue.hpp"
 #include "pictures/lettering.hpp"

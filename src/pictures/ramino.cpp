@@ -1,5 +1,8 @@
 #include <array>
 #include <cmath>
+#include <cstddef>
+#include <cstdlib>
+#include <string_view>
 
 #include "pictures/catalogue.hpp"
 #include "pictures/lettering.hpp"

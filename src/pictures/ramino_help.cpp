@@ -1,5 +1,8 @@
+#include <algorithm>
 #include <array>
+#include <cstddef>
 #include <span>
+#include <string_view>
 
 #include "pictures/catalogue.hpp"
 #include "toolkit/painter.hpp"

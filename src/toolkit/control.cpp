@@ -1,6 +1,7 @@
 #include "toolkit/control.hpp"
 
 #include <stdexcept>
+#include <utility>
 
 #include "toolkit/form.hpp"
 
