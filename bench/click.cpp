@@ -19,8 +19,6 @@ namespace {
 
 using Clock = std::chrono::steady_clock;
 
-constexpr int kGames = 6;
-
 /// Clicks at random on what is operable, seldom on what leaves a screen for the one before.
 class Player {
  public:
@@ -38,10 +36,13 @@ class Player {
 
   /// So many clicks, a part of them in each game.
   void play(int clicks) {
-    for (int game = 1; game <= kGames; ++game) {
+    std::vector<const Control*> entries;
+    for (const Control* control : room_.form().controls())
+      if (control->name().base == "commpr") entries.push_back(control);
+    for (const Control* entry : entries) {
       while (const Control* way = anyControl(true)) click(*way);
-      click(*room_.form().find("commpr(" + std::to_string(game) + ")"));
-      for (int i = 0; i < clicks / kGames; ++i) {
+      click(*entry);
+      for (std::size_t i = 0; i < static_cast<std::size_t>(clicks) / entries.size(); ++i) {
         if (const Control* control = anyControl(engine_() % 100 == 0)) click(*control);
       }
     }

@@ -98,6 +98,8 @@ TEST(Mescola, DrawsASlotAgainUntilItsNumberIsFresh) {
   mescola(source, dealt, 1, 3, 4);
   EXPECT_EQ(dealt, (std::array<std::int16_t, 5>{9, 1, 3, 2, 9}));
   EXPECT_EQ(source.queued(), 1U);
+  EXPECT_THROW(mescola(source, dealt, 1, 5, 9), std::out_of_range);
+  EXPECT_THROW(mescola(source, dealt, 1, 3, 2), std::invalid_argument) << "three numbers out of two";
 }
 
 TEST(ClockSource, StartsAnotherSequenceAtEachDealAndStaysInTheUnitInterval) {

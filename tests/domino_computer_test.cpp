@@ -24,17 +24,17 @@ TEST(DominoSet, HasEveryTileBothWaysRound) {
 }
 
 /// A position as the computer sees it.
-View viewOf(const std::map<int, Pair>& hand, int sx, int dx, const std::array<int, 7>& held) {
+Position positionOf(const std::map<int, Pair>& hand, int sx, int dx, const std::array<int, 7>& held) {
   const auto number = [](int n) { return static_cast<std::int16_t>(n); };
-  View view{{}, {number(sx), number(dx)}, {}};
-  for (const auto& [slot, tile] : hand) view.hand[slot] = Tile{number(tile.first), number(tile.second)};
-  for (int n = 0; n < 7; ++n) view.held[n] = number(held.at(static_cast<std::size_t>(n)));
-  return view;
+  Position position{{}, {number(sx), number(dx)}, {}};
+  for (const auto& [slot, tile] : hand) position.hand[slot] = Tile{number(tile.first), number(tile.second)};
+  for (int n = 0; n < 7; ++n) position.held[n] = number(held.at(static_cast<std::size_t>(n)));
+  return position;
 }
 
 void expectChoice(const std::map<int, Pair>& hand, int sx, int dx, const std::array<int, 7>& held,
                   bool expert) {
-  const auto found = choose(viewOf(hand, sx, dx, held), expert ? Level::Expert : Level::Beginner);
+  const auto found = choose(positionOf(hand, sx, dx, held), expert ? Level::Expert : Level::Beginner);
   const auto plain = reckoning::choice(hand, sx, dx, held, expert);
   ASSERT_EQ(found.has_value(), plain.has_value());
   if (!plain) return;
@@ -71,16 +71,16 @@ TEST(DominoComputer, AgreesWithThePlainDescription) {
 
 TEST(DominoComputer, ChoosesByItsLevel) {
   const std::map<int, Pair> hand{{15, {2, 3}}, {16, {3, 4}}, {17, {1, 5}}};
-  const View view = viewOf(hand, 3, 5, {2, 0, 3, 1, 0, 4, 2});
-  const Choice beginner = choose(view, Level::Beginner).value();
+  const Position position = positionOf(hand, 3, 5, {2, 0, 3, 1, 0, 4, 2});
+  const Choice beginner = choose(position, Level::Beginner).value();
   EXPECT_EQ(beginner.sceltadom, 15);
   EXPECT_TRUE(beginner.mossadom.end == End::Left && !beginner.mossadom.reversed);
-  const Choice expert = choose(view, Level::Expert).value();
+  const Choice expert = choose(position, Level::Expert).value();
   EXPECT_EQ(expert.sceltadom, 17);
   EXPECT_TRUE(expert.mossadom.end == End::Right && expert.mossadom.reversed);
   // The number that is open already, by a double; seven in the player's hand.
-  EXPECT_TRUE(choose(viewOf({{20, {4, 4}}}, 4, 4, {7, 0, 0, 0, 6, 0, 0}), Level::Expert).has_value());
-  EXPECT_FALSE(choose(viewOf({{20, {4, 4}}}, 1, 2, {}), Level::Expert).has_value());
+  EXPECT_TRUE(choose(positionOf({{20, {4, 4}}}, 4, 4, {7, 0, 0, 0, 6, 0, 0}), Level::Expert).has_value());
+  EXPECT_FALSE(choose(positionOf({{20, {4, 4}}}, 1, 2, {}), Level::Expert).has_value());
 }
 
 class AnyChance : public UniformSource {

@@ -204,12 +204,8 @@ Check mahjongg(Form& form) {
 }  // namespace
 
 Invariants::Invariants(Form& room)
-    : games_{{{poker(room)},
-              {videoPoker(room)},
-              {domino(room)},
-              {chain(room)},
-              {ramino(room)},
-              {mahjongg(room)}}} {
+    : games_{{poker(room)}, {videoPoker(room)}, {domino(room)},
+             {chain(room)}, {ramino(room)},     {mahjongg(room)}} {
   screens_.assign(room.children().begin(), room.children().end());
   for (const char* name : {"Label2", "Label5", "Label6", "hum1", "comp1", "scoredom1", "scoredom2",
                            "domcont1", "domcont2", "PRAMC", "PRAMH", "Lpuca", "Lmacatpu", "Llivpuca",
@@ -221,7 +217,11 @@ Invariants::Invariants(Form& room)
 }
 
 void Invariants::check() {
-  require(visibleOf(screens_) == 1, "not one screen");
+  if (visibleOf(screens_) != 1) {
+    std::string names;
+    for (const Control* screen : screens_) names += screen->Visible ? screen->name().text() + ' ' : "";
+    throw Violation("not one screen in sight but these: " + names);
+  }
   for (const Control* label : counts_) {
     const std::string& caption = label->Caption;
     if (!caption.empty() && !isNumber(caption)) throw Violation(label->name().text() + " says " + caption);

@@ -5,6 +5,7 @@
 #include <optional>
 #include <set>
 
+#include "mahjongg/rules.hpp"
 #include "pictures/catalogue.hpp"
 #include "sanitized.hpp"
 #include "table_test.hpp"
@@ -278,6 +279,12 @@ TEST_F(MahjonggTable, NeighboursOverlapAndTheLaterOneLiesOnTop) {
   click(lower.origin() + Point{400, -1});
   plain.click(1);
   expectSeen();
+}
+
+TEST(MahjonggRules, SelectNothingWhereNoTileStands) {
+  mahjongg::Mahjongg bare;
+  bare.press(1);
+  EXPECT_EQ(bare.selected(), 0);
 }
 
 }  // namespace

@@ -16,7 +16,7 @@ TEST(PokerRules, RefuseInEachPhaseWhatItDoesNotAllow) {
   const auto newMatch = [&] { game.newMatch(uniform); };
   const auto newHand = [&] { game.newHand(uniform); };
   const auto leave = [&] { game.leave(uniform); };
-  const auto mark = [&] { game.mark(4); };
+  const auto mark = [&] { game.toggleMark(4); };
   const auto showDown = [&] { game.showDown(Level::High, Counting::ByHand); };
   const auto state = [&] {
     std::vector<int> all{static_cast<int>(game.phase()), game.mayDeal(), game.isMarked(4), game.playerScore(),

@@ -1,5 +1,6 @@
 #include <random>
 
+#include "pictures/catalogue.hpp"
 #include "session.hpp"
 #include "walk.hpp"
 
@@ -20,7 +21,7 @@ TEST_P(RandomWalk, NeverLeavesTheRulesOfTheRoom) {
   EXPECT_GE(walk.invariants().ends(GetParam()), 4) << "the walk should get somewhere";
 }
 
-INSTANTIATE_TEST_SUITE_P(Games, RandomWalk, testing::Range(1, 7));
+INSTANTIATE_TEST_SUITE_P(Games, RandomWalk, testing::Range(1, pictures::commpr.count + 1));
 
 }  // namespace
 }  // namespace tombolario

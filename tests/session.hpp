@@ -18,6 +18,9 @@ template <class Value>
 void PrintTo(const Property<Value>& property, std::ostream* out) {
   *out << testing::PrintToString(property.get());
 }
+inline void PrintTo(const TextProperty& text, std::ostream* out) {
+  *out << testing::PrintToString(text.get());
+}
 inline void PrintTo(const Colour& colour, std::ostream* out) {
   *out << (colour.isSystem() ? "system " : "") << std::hex << colour.rgb() << std::dec;
 }

@@ -11,19 +11,6 @@
 /// to 52.
 namespace tombolario::videopoker::reckoning {
 
-inline constexpr int kJokerCard = 52;
-
-/// The cards as the game holds them.
-inline Hand handOf(const OfHand<int>& cards) {
-  Hand hand;
-  for (int i = 0; i < kHandSize; ++i) {
-    const int card = cards[i];
-    hand.value[i] = static_cast<std::int16_t>(card == kJokerCard ? 14 : card % 13);
-    hand.suit[i] = static_cast<std::int16_t>(card == kJokerCard ? 5 : card / 13 + 1);
-  }
-  return hand;
-}
-
 /// The values all lie in one of the ten sequences from A, 2, 3, 4, 5 to 10, J, Q, K, A.
 inline bool fitsASequence(const std::set<int>& values) {
   for (int low = 0; low <= 9; ++low) {

@@ -10,8 +10,6 @@
 namespace tombolario::videopoker {
 namespace {
 
-using reckoning::handOf;
-
 TEST(Scoring, AgreesWithThePlainDescriptionOnEveryHand) {
   constexpr int kStep = kSanitized ? 61 : 1;
   std::array<long, kFive + 1> rows{};

@@ -77,7 +77,7 @@ struct PlainGame {
     marked.clear();
     OfHand<int> five{};
     std::copy_n(cards.begin(), 5, five.begin());
-    const Hand hand = reckoning::handOf(five);
+    const Hand hand = handOf(five);
     const auto row = reckoning::rowOf(hand);
     groups.clear();
     for (int i = 0; i < 5; ++i) {

@@ -22,7 +22,11 @@ Walk::Walk(std::span<const std::uint8_t> choices, const std::filesystem::path& d
   done();
 }
 
-void Walk::enter(int game) { click(placeIn(*form_.find("commpr(" + std::to_string(game) + ")"))); }
+void Walk::enter(int game) {
+  const Control* entry = form_.find("commpr(" + std::to_string(game) + ")");
+  require(entry != nullptr, "a game has a name, and no entry in the main menu");
+  click(placeIn(*entry));
+}
 
 void Walk::play() {
   while (!choices_.empty()) step();

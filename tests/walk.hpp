@@ -20,7 +20,7 @@ class Walk {
  public:
   Walk(std::span<const std::uint8_t> choices, const std::filesystem::path& directory);
 
-  /// Leaves the main menu for a game, 1 to 6.
+  /// Leaves the main menu for a game, counted from 1.
   void enter(int game);
   /// Plays until no byte is left. Throws a Violation after the first event that leaves the rules.
   void play();

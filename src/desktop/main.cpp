@@ -1,4 +1,5 @@
 #include <cstdio>
+#include <exception>
 
 #include "desktop/window.hpp"
 

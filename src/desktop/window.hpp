@@ -5,6 +5,7 @@
 #include <map>
 #include <memory>
 #include <stdexcept>
+#include <string>
 
 #include "desktop/cairo_canvas.hpp"
 #include "host/clock_source.hpp"

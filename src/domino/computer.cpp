@@ -1,6 +1,7 @@
 #include "domino/computer.hpp"
 
 #include <array>
+#include <cstdint>
 #include <vector>
 
 namespace tombolario::domino {
@@ -21,14 +22,14 @@ std::vector<std::int16_t> byCount(const Numbers<0, kNumbers - 1>& held) {
 
 }  // namespace
 
-std::optional<Choice> choose(const View& view, Level level) {
-  constexpr std::array<Placement, 4> kTried{
-      {{End::Right, false}, {End::Left, false}, {End::Right, true}, {End::Left, true}}};
-  for (const std::int16_t wanted : byCount(view.held)) {
+std::optional<Choice> choose(const Position& position, Level level) {
+  constexpr std::array kTried{Placement{End::Right, false}, Placement{End::Left, false},
+                              Placement{End::Right, true}, Placement{End::Left, true}};
+  for (const std::int16_t wanted : byCount(position.held)) {
     for (int slot = kFirstOfComputer; slot <= kLastOfComputer; ++slot) {
-      if (!view.hand[slot]) continue;
+      if (!position.hand[slot]) continue;
       for (const Placement& placement : kTried) {
-        const auto left = placement.leavesOpen(*view.hand[slot], view.open);
+        const auto left = placement.leavesOpen(*position.hand[slot], position.open);
         if (left && (level == Level::Beginner || left == wanted)) return Choice{placement, slot};
       }
     }

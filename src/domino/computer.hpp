@@ -16,7 +16,7 @@ inline constexpr int kLastOfComputer = 27;
 enum class Level { Beginner, Expert };
 
 /// What the computer sees of a game.
-struct View {
+struct Position {
   Slots<std::optional<Tile>, kFirstOfComputer, kLastOfComputer>
       hand;  ///< nothing where the tile has been laid
   OpenEnds open;
@@ -32,6 +32,6 @@ struct Choice {
 /// The computer's choice; nothing if no tile fits. The expert prefers to leave open the number that the
 /// player holds least, the lower of two that are held alike; then the lowest slot counts, then right before
 /// left, and as it lies before reversed.
-std::optional<Choice> choose(const View& view, Level level);
+std::optional<Choice> choose(const Position& position, Level level);
 
 }  // namespace tombolario::domino

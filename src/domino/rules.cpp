@@ -1,6 +1,7 @@
 #include "domino/rules.hpp"
 
 #include <algorithm>
+#include <utility>
 
 #include "pieces/number.hpp"
 
@@ -19,6 +20,7 @@ void Domino::inizioDOMINO(UniformSource& uniform) {
   std::fill(reversed_.begin(), reversed_.end(), false);
   line_ = {0};
   primodom_ = kOpeningBox;
+  playerPassed_ = false;
   signal_ = Signal::Nothing;
   phase_ = playerFits() ? Phase::PlayerToLay : Phase::PlayerStuck;
 }
@@ -41,17 +43,17 @@ void Domino::lay(int slot, End end) {
 }
 
 void Domino::pass() {
-  if (phase_ == Phase::PlayerStuck) phase_ = Phase::ComputerToMove;
+  if (phase_ != Phase::PlayerStuck) return;
+  playerPassed_ = true;
+  phase_ = Phase::ComputerToMove;
 }
 
 void Domino::computerTurn(Level level) {
   if (phase_ != Phase::ComputerToMove) return;
-  View view{{}, open(), contadom(Side::Player)};
-  for (const int slot : hand(Side::Computer)) view.hand[slot] = tile(slot);
-  const auto choice = choose(view, level);
-  // No tile of the player's fitted after the computer's last turn, so the player has just passed: then nobody
-  // can move. It is not told of at the deal.
-  const bool blocked = !choice && signal_ == Signal::NoTileFits;
+  Position position{{}, open(), contadom(Side::Player)};
+  for (const int slot : hand(Side::Computer)) position.hand[slot] = tile(slot);
+  const auto choice = choose(position, level);
+  const bool blocked = std::exchange(playerPassed_, false) && !choice;
   if (choice) {
     place(choice->sceltadom, choice->mossadom);
   } else {

@@ -46,7 +46,7 @@ class Domino {
   void lay(int slot, End end);
   /// The player passes: only when stuck.
   void pass();
-  /// The computer lays a tile or passes: only when it is to move.
+  /// The computer lays a tile or passes: only when it is to move. Where both have passed the game is over.
   void computerTurn(Level level);
   /// After a game that is over: deals the next one, or the match is over too; then nothing more.
   void next(Counting counting, UniformSource& uniform);
@@ -85,6 +85,7 @@ class Domino {
   void settle();
 
   Phase phase_ = Phase::MatchOver;  ///< none has begun
+  bool playerPassed_ = false;       ///< in the turn before the computer's
   Signal signal_ = Signal::Nothing;
   Result result_ = Result::None;
   Numbers<0, kTiles - 1> mischiadom_{};  ///< the tile in each slot, as dealt

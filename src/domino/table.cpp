@@ -1,4 +1,6 @@
 #include <algorithm>
+#include <cstdint>
+#include <memory>
 
 #include "domino/game.hpp"
 #include "domino/rules.hpp"

@@ -5,11 +5,13 @@
 #include <cerrno>
 #include <charconv>
 #include <cmath>
+#include <cstddef>
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
 #include <istream>
 #include <ostream>
+#include <system_error>
 #include <utility>
 
 #include "driver/properties.hpp"
@@ -272,7 +274,7 @@ std::string Driver::dump(const Words&) {
   for (const Control* control : started().controls()) {
     if (!control->onView()) continue;
     lines += control->name().text();
-    for (const PropertyReader& property : kProperties) {
+    for (const PropertyReader& property : properties()) {
       lines += ' ';
       lines += property.name;
       lines += '=';

@@ -1,6 +1,7 @@
 #include "driver/properties.hpp"
 
 #include <algorithm>
+#include <array>
 #include <cstdio>
 
 namespace tombolario {
@@ -47,25 +48,27 @@ std::string read(const Control& control) {
   return text((control.*property).get());
 }
 
+constexpr auto kProperties = std::to_array<PropertyReader>({{"Visible", read<&Control::Visible>},
+                                                            {"Enabled", read<&Control::Enabled>},
+                                                            {"BackColor", read<&Control::BackColor>},
+                                                            {"ForeColor", read<&Control::ForeColor>},
+                                                            {"BorderColor", read<&Control::BorderColor>},
+                                                            {"FillColor", read<&Control::FillColor>},
+                                                            {"Picture", read<&Control::Picture>},
+                                                            {"Left", read<&Control::Left>},
+                                                            {"Top", read<&Control::Top>},
+                                                            {"Width", read<&Control::Width>},
+                                                            {"Height", read<&Control::Height>},
+                                                            {"Value", read<&Control::Value>},
+                                                            {"Min", read<&Control::Min>},
+                                                            {"Max", read<&Control::Max>},
+                                                            {"MousePointer", read<&Control::MousePointer>},
+                                                            {"MouseIcon", read<&Control::MouseIcon>},
+                                                            {"Caption", read<&Control::Caption>}});
+
 }  // namespace
 
-const std::array<PropertyReader, 17> kProperties{{{"Visible", read<&Control::Visible>},
-                                                  {"Enabled", read<&Control::Enabled>},
-                                                  {"BackColor", read<&Control::BackColor>},
-                                                  {"ForeColor", read<&Control::ForeColor>},
-                                                  {"BorderColor", read<&Control::BorderColor>},
-                                                  {"FillColor", read<&Control::FillColor>},
-                                                  {"Picture", read<&Control::Picture>},
-                                                  {"Left", read<&Control::Left>},
-                                                  {"Top", read<&Control::Top>},
-                                                  {"Width", read<&Control::Width>},
-                                                  {"Height", read<&Control::Height>},
-                                                  {"Value", read<&Control::Value>},
-                                                  {"Min", read<&Control::Min>},
-                                                  {"Max", read<&Control::Max>},
-                                                  {"MousePointer", read<&Control::MousePointer>},
-                                                  {"MouseIcon", read<&Control::MouseIcon>},
-                                                  {"Caption", read<&Control::Caption>}}};
+std::span<const PropertyReader> properties() { return kProperties; }
 
 const PropertyReader* findProperty(std::string_view name) {
   const auto* found = std::find_if(kProperties.begin(), kProperties.end(),

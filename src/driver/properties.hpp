@@ -1,6 +1,6 @@
 #pragma once
 
-#include <array>
+#include <span>
 #include <string>
 #include <string_view>
 
@@ -16,7 +16,7 @@ struct PropertyReader {
 };
 
 /// The caption comes last, since it may hold blanks.
-extern const std::array<PropertyReader, 17> kProperties;
+std::span<const PropertyReader> properties();
 
 /// Null for an unknown name.
 const PropertyReader* findProperty(std::string_view name);

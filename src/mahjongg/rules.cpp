@@ -4,15 +4,9 @@
 
 namespace tombolario::mahjongg {
 
-namespace {
-
-constexpr std::int16_t kOfAKind = 4;
-
-}  // namespace
-
 void Mahjongg::avvioMAH(UniformSource& uniform) {
   std::fill(standing_.begin(), standing_.end(), true);
-  std::fill(left_.begin(), left_.end(), kOfAKind);
+  std::fill(left_.begin(), left_.end(), std::int16_t{kOfAKind});
   selmah = 0;
   deal(uniform, ordinemah, 0, kCells - 1, kCells);
   for (int cell = 1; cell <= kCells; ++cell)
@@ -28,7 +22,7 @@ bool Mahjongg::isFree(int cell) const {
 
 void Mahjongg::press(int cell) {
   if (!isSelected(cell)) {
-    if (selmah < 2 && isFree(cell)) sceltemah[selmah++] = static_cast<std::int16_t>(cell);
+    if (selmah < 2 && stands(cell) && isFree(cell)) sceltemah[selmah++] = static_cast<std::int16_t>(cell);
     return;
   }
   if (sceltemah[0] == cell) sceltemah[0] = sceltemah[1];

@@ -28,7 +28,7 @@ class Mahjongg {
   /// Lays a new board; any order, solvable or not.
   void avvioMAH(UniformSource& uniform);
 
-  /// Selects a free tile, if fewer than two are, or releases a selected one. The tile must stand.
+  /// Selects a free tile, if fewer than two are, or releases a selected one. Nothing where none stands.
   void press(int cell);
   /// Takes the two selected tiles away if they are of one kind; releases them in any case. Nothing unless
   /// two are selected.

@@ -1,3 +1,5 @@
+#include <memory>
+
 #include "mahjongg/game.hpp"
 #include "mahjongg/rules.hpp"
 #include "pictures/catalogue.hpp"

@@ -2,11 +2,13 @@
 
 #include <array>
 #include <cmath>
+#include <cstddef>
 #include <numbers>
 
 #include "pictures/catalogue.hpp"
 #include "pictures/lettering.hpp"
 #include "pictures/outline.hpp"
+#include "toolkit/contrast.hpp"
 
 namespace tombolario::pictures {
 
@@ -25,27 +27,15 @@ void drawCard(Painter& painter, int card, Size size, const Suits& suits, Rgb ink
              lettering(size.height * 0.36), ink);
 }
 
-constexpr int kJoker = kPack;
 constexpr Size kVideoPokerCard{70, 92};
 constexpr Size kJokerCard{70, 93};
-constexpr Suits kVideoPokerSuits{kRed, kYellow, 0x00E8E8, kGreen};
+constexpr Suits kVideoPokerSuits = slots<0, Rgb>({kRed, kYellow, 0x00E8E8, kGreen});
 
 constexpr Size kPokerCard{70, 92};
-constexpr Suits kPokerSuits{0xFF00FF, 0xFF8040, 0xFFFFB3, kBlue};
+constexpr Suits kPokerSuits = slots<0, Rgb>({0xFF00FF, 0xFF8040, 0xFFFFB3, kBlue});
 
 constexpr Size kRaminoCard{40, 59};
-constexpr Suits kRaminoSuits{0x008000, 0xF0BC09, 0xFF0080, 0x800000};
-
-/// A colour with that share of another.
-Rgb mixed(Rgb colour, Rgb other, double share) {
-  Rgb mix = 0;
-  for (const unsigned shift : {16U, 8U, 0U}) {
-    const double from = colour >> shift & 0xFF;
-    const double to = other >> shift & 0xFF;
-    mix |= static_cast<Rgb>(std::lround(from + (to - from) * share)) << shift;
-  }
-  return mix;
-}
+constexpr Suits kRaminoSuits = slots<0, Rgb>({0x008000, 0xF0BC09, 0xFF0080, 0x800000});
 
 /// One of the gores of a ball whose pole leans upwards, away from who looks: between two meridians, from the
 /// pole to where they go round to the far side.

@@ -1,6 +1,8 @@
 #include <array>
 #include <cmath>
+#include <cstddef>
 #include <numbers>
+#include <span>
 #include <string>
 
 #include "pictures/catalogue.hpp"

@@ -1,5 +1,8 @@
 #include <array>
 #include <cmath>
+#include <cstddef>
+#include <cstdlib>
+#include <string_view>
 
 #include "pictures/catalogue.hpp"
 #include "pictures/lettering.hpp"
@@ -17,7 +20,7 @@ constexpr Rgb kGrey = 0xC0C0C0;
 
 /// The back of a card: thin bands, edged.
 void drawBack(Painter& painter, int) {
-  constexpr std::array<Rgb, 3> kBands{kYellow, kCyan, kBlue};
+  constexpr std::array kBands{kYellow, kCyan, kBlue};
   painter.enter({0, 0, kCardSize.width, kCardSize.height});
   for (std::size_t band = 0; 2 * static_cast<int>(band) < kCardSize.height; ++band) {
     painter.fillRect({0, 2.0 * static_cast<double>(band), kCardSize.width, 2},

@@ -1,6 +1,9 @@
+#include <algorithm>
 #include <array>
 #include <cmath>
+#include <cstddef>
 #include <span>
+#include <string_view>
 
 #include "pictures/catalogue.hpp"
 #include "pictures/lettering.hpp"
@@ -54,8 +57,8 @@ constexpr std::array kSeventh{Run("selezionata (in alternativa si può non scamb
                               Run(ramlas), Run(".")};
 constexpr std::array kLast{Run("Per vincere bisogna fare 3 tris.")};
 
-constexpr std::array<std::span<const Run>, 8> kLines{kFirst, kSecond, kThird,   kFourth,
-                                                     kFifth, kSixth,  kSeventh, kLast};
+constexpr auto kLines =
+    std::to_array<std::span<const Run>>({kFirst, kSecond, kThird, kFourth, kFifth, kSixth, kSeventh, kLast});
 
 double widthOf(Painter& painter, const Run& run) {
   if (run.picture != nullptr) return run.size().width;

@@ -1,4 +1,6 @@
+#include <array>
 #include <cmath>
+#include <cstddef>
 #include <string>
 
 #include "pictures/catalogue.hpp"
@@ -11,7 +13,8 @@ namespace {
 
 /// A lit row begins at its top, which are uneven, and may reach a little under the next one: where its middle
 /// is, the words of the row are, and the steps between them are as even as that leaves them.
-constexpr Slots<int, 0, 10> kLitHeights = slots<0, int>({19, 17, 17, 20, 20, 20, 20, 20, 20, 20, 20});
+constexpr Slots<int, 0, kPayRows - 1> kLitHeights =
+    slots<0, int>({19, 17, 17, 20, 20, 20, 20, 20, 20, 20, 20});
 
 constexpr Size kPayTableSize{156, 191};
 
@@ -29,7 +32,7 @@ void drawPayRow(Painter& painter, int row) {
 
 void drawPayTable(Painter& painter, int) {
   painter.fillRect({0, 0, kPayTableSize.width, kPayTableSize.height}, kRed);
-  for (int row = 0; row < static_cast<int>(kPayTable.items.size()); ++row) {
+  for (int row = 0; row < kPayRows; ++row) {
     const double top = std::round(kPayTable[row].top / double{kTwipsPerPixel});
     painter.enter({0, top, kPayTableSize.width, static_cast<double>(kLitHeights[row])});
     drawPayRow(painter, row);
@@ -45,19 +48,20 @@ void drawLitRow(Painter& painter, int row) {
 
 /// Vertical stripes, twelve pixels each.
 void drawStripes(Painter& painter, int) {
-  constexpr Slots<Rgb, 0, 3> kColours{kRed, kCyan, kBlue, kYellow};
-  for (int i = 0; i < 36; ++i) {
-    painter.fillRect({i * 12.0, 0, 12, 196}, kColours[i % 4]);
+  constexpr std::array kColours{kRed, kCyan, kBlue, kYellow};
+  for (std::size_t i = 0; i < 36; ++i) {
+    painter.fillRect({static_cast<double>(i) * 12, 0, 12, 196}, kColours.at(i % kColours.size()));
   }
 }
 
 }  // namespace
 
 constinit const PictureStore Pictcomvidpok = singlePicture<kPayTableSize>("Pictcomvidpok", drawPayTable);
-constinit const PictureStore segn{"segn", 0, kPayTable.items.size(), true, litRowSize, drawLitRow};
+constinit const PictureStore segn{"segn", 0, kPayRows, true, litRowSize, drawLitRow};
 // These four are wider than the buttons that show them, 169 pixels, and lie beside each other.
 constexpr int kButtonRoom = 155;
 constexpr int kButtonCapHeight = 8;
+static_assert(kFee == 5, "CONTPOK1 names the fee");
 constinit const PictureStore CONTPOK1 =
     plateStore<"CONTINUA (-5)", Size{204, 18}, kRed, kCyan, kButtonCapHeight, kButtonRoom>("CONTPOK1");
 constinit const PictureStore CONTPOK2 =

@@ -7,6 +7,7 @@ namespace tombolario {
 inline constexpr int kValues = 13;
 inline constexpr int kSuits = 4;
 inline constexpr int kPack = kValues * kSuits;
+inline constexpr int kJoker = kPack;  ///< the number of the joker, where there is one
 
 /// What is drawn on a card of each value, 0 to 12: the ace has the lowest number.
 inline constexpr Slots<const char*, 0, kValues - 1> kValueNames =

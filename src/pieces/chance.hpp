@@ -16,8 +16,9 @@ class UniformSource {
 };
 
 /// The shuffle of every game: fills slots first to last (both counted) with distinct numbers of 0 to
-/// n - 1, drawing a slot again while an earlier one from first on holds the same number. n must be at
-/// least the number of slots. Slots outside are left alone.
+/// n - 1, drawing a slot again while an earlier one from first on holds the same number. Slots outside are
+/// left alone. Throws std::out_of_range where there are no such slots, std::invalid_argument where they are
+/// more than n.
 void mescola(UniformSource& uniform, std::span<std::int16_t> slots, int first, int last, int n);
 
 /// Every deal of the room: seeds anew, then shuffles.

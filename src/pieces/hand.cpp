@@ -2,7 +2,19 @@
 
 #include <algorithm>
 
+#include "pieces/cards.hpp"
+
 namespace tombolario {
+
+Hand handOf(const Cards& cards) {
+  Hand hand;
+  for (int i = 0; i < kHandSize; ++i) {
+    const bool joker = cards[i] == kJoker;
+    hand.value[i] = joker ? kJokerValue : static_cast<std::int16_t>(cardValue(cards[i]));
+    hand.suit[i] = joker ? kJokerSuit : static_cast<std::int16_t>(cardSuit(cards[i]));
+  }
+  return hand;
+}
 
 LikePairs countLikePairs(const Hand& hand) {
   LikePairs pairs;
@@ -23,13 +35,6 @@ OfHand<std::int16_t> sortedValues(const Hand& hand) {
   auto values = hand.value;
   std::sort(values.begin(), values.end());
   return values;
-}
-
-OfHand<int> slotsAfterChange(const Marks& marked) {
-  OfHand<int> from{};
-  int next = kHandSize;
-  for (int i = 0; i < kHandSize; ++i) from[i] = marked[i] ? next++ : i;
-  return from;
 }
 
 }  // namespace tombolario

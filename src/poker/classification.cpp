@@ -16,15 +16,6 @@ std::int16_t rankOf(std::int16_t value) { return value == 0 ? kAceRank : value; 
 
 const char* letterOf(std::int16_t rank) { return kValueNames[rank % kAceRank]; }
 
-Hand handOf(const Cards& cards) {
-  Hand hand;
-  for (int i = 0; i < kHandSize; ++i) {
-    hand.value[i] = static_cast<std::int16_t>(cardValue(cards[i]));
-    hand.suit[i] = static_cast<std::int16_t>(cardSuit(cards[i]));
-  }
-  return hand;
-}
-
 /// The class of a hand by the pairs of positions that are alike in value: one for a pair, three among three
 /// cards, six among four.
 HandClass classOfGroups(int pairs) {

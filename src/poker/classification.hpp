@@ -5,6 +5,7 @@
 #include <string>
 
 #include "pieces/hand.hpp"
+#include "pieces/pay_tables.hpp"
 
 namespace tombolario::poker {
 
@@ -21,9 +22,7 @@ enum HandClass {
   kFour,
   kStraightFlush,
 };
-
-/// The numbers, 0 to 51, of the five cards of a hand.
-using Cards = OfHand<int>;
+static_assert(kStraightFlush == kHandClasses - 1, "a combination for each");
 
 /// What a card is to the class of its hand.
 enum class Role { None, FirstGroup, SecondGroup, Top };

@@ -32,7 +32,7 @@ void Poker::leave(UniformSource& uniform) {
   phase_ = Phase::NoMatch;
 }
 
-void Poker::mark(int position) {
+void Poker::toggleMark(int position) {
   if (phase_ == Phase::Dealt) marked_[position] = !marked_[position];
 }
 
@@ -55,28 +55,21 @@ void Poker::avvioPOKER(UniformSource& uniform) {
 }
 
 void Poker::changePlayer() {
-  const auto from = slotsAfterChange(marked_);
-  for (int i = 0; i < kHandSize; ++i) mazzopok[i] = mazzopok[from[i]];
+  changeMarked(mazzopok, marked_);
   marked_ = {};
-  classehum = classify(handAt(0));
+  classehum = classify(cardsAt(mazzopok, 0));
 }
 
 void Poker::changeComputer() {
-  const auto changed = chooseDraw(handAt(kComputerSlot), card(kNextCardSlot));
+  const auto changed = chooseDraw(cardsAt(mazzopok, kComputerSlot), card(kNextCardSlot));
   if (changed) mazzopok[kComputerSlot + *changed] = mazzopok[kNextCardSlot];
-  classecom = classify(handAt(kComputerSlot));
+  classecom = classify(cardsAt(mazzopok, kComputerSlot));
 }
 
 void Poker::award(Level level, Counting counting) {
   handWinner_ = winner(classehum, classecom, level);
   if (handWinner_ == Side::Player) add(playerScore_, points(classehum.kind, counting));
   if (handWinner_ == Side::Computer) add(computerScore_, points(classecom.kind, counting));
-}
-
-Cards Poker::handAt(int slot) const {
-  Cards cards{};
-  for (int i = 0; i < kHandSize; ++i) cards[i] = card(slot + i);
-  return cards;
 }
 
 }  // namespace tombolario::poker

@@ -33,7 +33,7 @@ class Poker {
   void leave(UniformSource& uniform);
   /// Marks the player's card in a position, 0 to 4, for change, or takes its mark off. Only between a deal
   /// and the showdown.
-  void mark(int position);
+  void toggleMark(int position);
   /// Changes the player's marked cards, from left to right, for the replacements in their order, lets the
   /// computer draw, and adds what the better hand counts to the score of its side. Only where a hand is
   /// dealt.
@@ -62,7 +62,6 @@ class Poker {
   void changePlayer();
   void changeComputer();
   void award(Level level, Counting counting);
-  Cards handAt(int slot) const;
 
   Phase phase_ = Phase::NoMatch;
   bool mayDeal_ = false;

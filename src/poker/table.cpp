@@ -1,3 +1,5 @@
+#include <memory>
+
 #include "pictures/catalogue.hpp"
 #include "poker/game.hpp"
 #include "poker/rules.hpp"
@@ -58,9 +60,6 @@ struct Options : Frame {
   Counting counting() const { return Framepun.Op1.Value == 1 ? Counting::ByHand : Counting::ByClass; }
 };
 
-constexpr Look cardLook(bool visible) {
-  return {.back = kBlack, .border = Border::Single, .visible = visible};
-}
 constexpr Look frameLook() { return {.back = kAtRest, .border = Border::Etched}; }
 constexpr Box kCardInFrame{360, 360, 1080, 1415};
 constexpr int leftOf(int position) { return 1560 + 1800 * position; }
@@ -122,7 +121,7 @@ class Table : public Game {
   Table(Form& form, Host& host) : uniform_(host.uniform()), options_(form), screen_(form) {
     for (PlayerCard& card : screen_.playerCards) {
       card.Command22.onClick = [this, &card] {
-        game_.mark(card.name().index);
+        game_.toggleMark(card.name().index);
         show();
       };
     }

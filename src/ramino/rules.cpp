@@ -10,7 +10,6 @@ namespace tombolario::ramino {
 
 namespace {
 
-constexpr int kDealt = 51;  // positions of the pack that a deal fills
 constexpr int kHandsToWin = 9;
 constexpr int kTriple = 3;
 constexpr int kToWin = 3 * kTriple;  // cards in `tris`
@@ -34,7 +33,7 @@ void Ramino::avvioRAM(UniformSource& uniform) {
   cimaRam = kStockFirst;
   marking_ = {};
   frames_ = {};
-  deal(uniform, mazzoRam, 0, kDealt - 1, kPack);
+  deal(uniform, mazzoRam, 0, kStockEnd - 1, kPack);
 }
 
 void Ramino::drawFromStock() {
@@ -67,7 +66,7 @@ void Ramino::leave() {
 }
 
 void Ramino::press(int card) {
-  if (isOver()) return;
+  if (phase_ == Phase::NoHand || isOver()) return;
   FrameState& frame = frames_[card];
   if (phase_ == Phase::InPlay) {
     unlock(card);

@@ -14,8 +14,8 @@ inline constexpr int kListPlaces = 37;  ///< of the list of discards, more than 
 /// The beginner always draws from the stock; the expert takes the table card where it makes a `tris`.
 enum class Level { Beginner, Expert };
 
-/// The player's turn up to the computer's, or how the hand has ended.
-enum class Phase { ToDraw, InPlay, Placed, Won, Lost, StockOut };
+/// Nothing before the first deal; then the player's turn up to the computer's, or how the hand has ended.
+enum class Phase { NoHand, ToDraw, InPlay, Placed, Won, Lost, StockOut };
 
 /// Where the card in play is from, if there is one.
 enum class Pile { None, Stock, Table };
@@ -83,7 +83,7 @@ class Ramino {
   Marking marking_;                  ///< of the computer's positions
   Slots<FrameState, 0, kPlayerCards - 1> frames_{};
   std::int16_t cimaRam = kStockFirst;  ///< the next position of the stock
-  Phase phase_ = Phase::ToDraw;
+  Phase phase_ = Phase::NoHand;
   Pile inPlayFrom_ = Pile::None;
   bool tableCardShown_ = false;
   Numbers<0, kListPlaces - 1> scarti_{};

@@ -1,4 +1,5 @@
 #include <algorithm>
+#include <memory>
 
 #include "pictures/catalogue.hpp"
 #include "ramino/game.hpp"
@@ -14,9 +15,6 @@ namespace tombolario::ramino {
 
 namespace {
 
-constexpr Look cardLook(bool visible) {
-  return {.back = kWhite, .border = Border::Single, .visible = visible};
-}
 /// Lies about a card that the player has drawn.
 constexpr Look takenLook() { return {.back = 0xFFFFC0, .border = Border::Etched, .visible = false}; }
 /// Bears cards of the computer's.
@@ -58,7 +56,7 @@ struct DrawnCard : Frame {
   explicit DrawnCard(Control& parent)
       : Frame(parent, {"Ramfr", kInPlay}, {240, 240, 1095, 1560}, takenLook()) {}
 
-  PictureBox ramin{*this, {"ramin", kInPlay}, {240, 360, 630, 915}, cardLook(true)};
+  PictureBox ramin{*this, {"ramin", kInPlay}, {240, 360, 630, 915}, cardLook(true, kWhite)};
 };
 
 struct Piles : Frame {
@@ -67,7 +65,7 @@ struct Piles : Frame {
 
   PictureBox PicRAM3{*this, "PicRAM3", {480, 600, 600, 885}, {.back = kYellow, .picture = pictures::PicRAM3}};
   Frame Frame19b{*this, "Frame19b", {1320, 240, 1095, 1560}, takenLook()};
-  PictureBox cartatr{*this, "cartatr", {1560, 600, 630, 915}, cardLook(true)};
+  PictureBox cartatr{*this, "cartatr", {1560, 600, 630, 915}, cardLook(true, kWhite)};
   Button mazzoram{*this, "mazzoram", {120, 1800, 1215, 375}, "MAZZO", buttonLook(kYellow)};
   Button tavoloram{*this, "tavoloram", {1320, 1800, 1215, 375}, "TAVOLO", buttonLook(0x80FF80)};
   DrawnCard Ramfr{*this};
@@ -79,7 +77,7 @@ struct PlayerCard : Frame {
       : Frame(parent, {"Ramfr", k}, {1080 + 1080 * k, 5880, 1095, 2295},
               {.back = kAtRest, .border = Border::Etched}) {}
 
-  PictureBox ramin{*this, {"ramin", name().index}, {240, 480, 630, 915}, cardLook(true)};
+  PictureBox ramin{*this, {"ramin", name().index}, {240, 480, 630, 915}, cardLook(true, kWhite)};
   Button ramCom{*this, {"ramCom", name().index}, {120, 1680, 855, 375}, "",
                 buttonLook(kRed, pictures::rampul1)};
 };
@@ -90,7 +88,7 @@ struct Discards : Frame {
 
   Label Lscarram{*this, "Lscarram", {180, 420, 990, 255}, "Scarti", {.back = 0xC0FFFF, .font = kButtonFont}};
   ControlArray<PictureBox, 0, kListPlaces - 1> visualram{[this](int i) {
-    return PictureBox{*this, {"visualram", i}, {360, 1080, 630, 915}, cardLook(false)}; }};
+    return PictureBox{*this, {"visualram", i}, {360, 1080, 630, 915}, cardLook(false, kWhite)}; }};
   ScrollBar VScrollram1{*this, "VScrollram1", {1200, 360, 375, 2295}, ScrollBar::Direction::Vertical};
 };
 
@@ -100,7 +98,7 @@ struct OpenHand : Frame {
 
   ControlArray<PictureBox, kComputerFirst, kComputerLast> ramin{[this](int position) {
     return PictureBox{*this, {"ramin", position}, {600 * (position - kComputerFirst + 1), 390, 630, 915},
-                      cardLook(false)}; }};
+                      cardLook(false, kWhite)}; }};
 };
 
 struct ConsideredCard : Frame {
@@ -108,7 +106,7 @@ struct ConsideredCard : Frame {
 
   Label lcpram{*this, "lcpram", {120, 150, 1575, 255}, "Carta pescata",
                {.back = 0xC0C0C0, .font = kButtonFont}};
-  PictureBox ramin{*this, {"ramin", kConsidered}, {600, 570, 630, 915}, cardLook(false)};
+  PictureBox ramin{*this, {"ramin", kConsidered}, {600, 570, 630, 915}, cardLook(false, kWhite)};
 };
 
 struct Score : PictureBox {

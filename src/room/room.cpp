@@ -1,5 +1,8 @@
 #include "room/room.hpp"
 
+#include <stdexcept>
+#include <string>
+
 #include "chain/game.hpp"
 #include "domino/game.hpp"
 #include "mahjongg/game.hpp"
@@ -27,6 +30,16 @@ std::vector<std::unique_ptr<Game>> makeGames(Form& form, Host& host) {
   return games;
 }
 
+/// A game whose ways would lead nowhere stops the start.
+void checkWays(Game& game, const Form& form) {
+  const std::string entrance = game.entrance().name().text();
+  if (game.entrance().parent() != &form) throw std::logic_error(entrance + " is an entrance and no screen");
+  const Control* screen = &game.wayBack();
+  while (screen->parent() != &form) screen = screen->parent();
+  if (screen != &game.entrance())
+    throw std::logic_error(game.wayBack().name().text() + " leads back, and does not lie on " + entrance);
+}
+
 }  // namespace
 
 Room::Room(Host& host)
@@ -35,6 +48,7 @@ Room::Room(Host& host)
       menu_(form_, host, static_cast<int>(games_.size())) {
   auto entry = menu_.commpr.begin();
   for (const auto& game : games_) {
+    checkWays(*game, form_);
     // A press of any mouse button opens the game.
     (entry++)->onMouseDown = [this, &game](MouseButton) {
       game->enter();

@@ -1,6 +1,7 @@
 #include "toolkit/caption.hpp"
 
 #include <algorithm>
+#include <cstddef>
 #include <utility>
 #include <vector>
 

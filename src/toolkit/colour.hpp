@@ -32,7 +32,7 @@ constexpr Rgb classicPalette(SystemColour role) {
 }
 
 /// The colour of a control: a screen colour or a system colour. It remembers which of the two it was
-/// given, since the games read colours back as state: a system white is not a plain white.
+/// given: a system white is not a plain white.
 class Colour {
  public:
   constexpr Colour(Rgb rgb) : value_(rgb & 0xFFFFFF) {}

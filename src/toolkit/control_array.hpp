@@ -2,12 +2,15 @@
 
 #include <array>
 #include <cstddef>
+#include <stdexcept>
 #include <utility>
+
+#include "toolkit/control.hpp"
 
 namespace tombolario {
 
 /// A row of controls of one kind that share a name, numbered First to Last. A number outside is a fault, and
-/// throws.
+/// throws std::out_of_range.
 template <class Kind, int First, int Last>
 class ControlArray {
  public:
@@ -15,7 +18,14 @@ class ControlArray {
   template <class Make>
   explicit ControlArray(Make make) : ControlArray(make, std::make_index_sequence<Last - First + 1>()) {}
 
-  Kind& operator[](int index) { return controls_.at(static_cast<std::size_t>(index - First)); }
+  Kind& operator[](int index) {
+    if (index < First || index > Last) {
+      Name wanted = controls_.front().name();
+      wanted.index = index;
+      throw std::out_of_range("there is no " + wanted.text());
+    }
+    return controls_[static_cast<std::size_t>(index - First)];
+  }
 
   auto begin() { return controls_.begin(); }
   auto end() { return controls_.end(); }

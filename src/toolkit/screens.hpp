@@ -26,6 +26,11 @@ constexpr Look buttonLook(Colour back, PictureId picture) { return {.back = back
 constexpr Look groupLook() { return {.font = kButtonFont, .border = Border::Etched}; }
 constexpr Look optionLook() { return {.font = {.points = 9.75}}; }
 
+/// The look of a card.
+constexpr Look cardLook(bool visible, Colour back = kBlack) {
+  return {.back = back, .border = Border::Single, .visible = visible};
+}
+
 /// The look of a screen, which is out of sight at the start.
 constexpr Look screenLook(Colour back) { return {.back = back, .visible = false}; }
 

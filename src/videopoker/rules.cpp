@@ -59,9 +59,8 @@ void VideoPoker::toggleMark(int position) {
 
 void VideoPoker::change() {
   if (place_ != Place::Table || phase_ != Phase::Dealt) return;
-  const auto from = slotsAfterChange(marked_);
-  for (int i = 0; i < kHandSize; ++i) mazzoVP[i] = mazzoVP[from[i]];
-  const Scoring scoring = score(hand());
+  changeMarked(mazzoVP, marked_);
+  const Scoring scoring = score(handOf(cardsAt(mazzoVP, 0)));
   marked_ = {};
   groups_ = scoring.groups;
   litRow_ = scoring.row;
@@ -89,16 +88,6 @@ void VideoPoker::avvioVIDEO(UniformSource& uniform) {
   litRow_.reset();
   add(maniVP, 1);
   if (runOver()) place_ = Place::Summary;
-}
-
-Hand VideoPoker::hand() const {
-  Hand hand;
-  for (int i = 0; i < kHandSize; ++i) {
-    const bool joker = card(i) == kPack;
-    hand.value[i] = joker ? kJokerValue : static_cast<std::int16_t>(cardValue(card(i)));
-    hand.suit[i] = joker ? kJokerSuit : static_cast<std::int16_t>(cardSuit(card(i)));
-  }
-  return hand;
 }
 
 }  // namespace tombolario::videopoker

@@ -12,7 +12,6 @@ namespace tombolario::videopoker {
 inline constexpr int kCards = kPack + 1;  ///< with the joker, the last card number
 inline constexpr int kSlots = 2 * kHandSize;
 inline constexpr std::int16_t kFirstBalance = 10;
-inline constexpr int kFee = 5;        ///< for going on and for loading; the balance must be above it
 inline constexpr int kRunDeals = 10;  ///< the deal that ends a run of hands
 
 /// What the player has in sight.
@@ -71,7 +70,6 @@ class VideoPoker {
  private:
   void startRun(std::int16_t balance, int fee);
   void avvioVIDEO(UniformSource& uniform);
-  Hand hand() const;
 
   Place place_ = Place::Menu;
   Phase phase_ = Phase::NoHand;

@@ -1,14 +1,9 @@
 #pragma once
 
-#include <cstdint>
-
 #include "pieces/hand.hpp"
+#include "pieces/pay_tables.hpp"
 
 namespace tombolario::videopoker {
-
-/// The joker takes the place of one card when a hand is scored.
-inline constexpr std::int16_t kJokerValue = 14;
-inline constexpr std::int16_t kJokerSuit = 5;
 
 /// The rows of the pay table, from the worthless hand to five alike.
 enum Row {
@@ -24,6 +19,7 @@ enum Row {
   kStraightFlush,
   kFive
 };
+static_assert(kFive == kPayRows - 1, "a row of the pay table for each");
 
 /// Which group of equal cards a card belongs to, as the table shows it. Of two groups the one that counts
 /// more is the first: the three of a full house, else the higher pair, and aces before all.
@@ -35,7 +31,7 @@ struct Scoring {
   OfHand<Group> groups{};
 };
 
-/// Recognises a hand. At most one of the cards is the joker.
+/// Recognises a hand. At most one of the cards is the joker, which takes the place of any.
 Scoring score(const Hand& hand);
 
 }  // namespace tombolario::videopoker

@@ -1,3 +1,5 @@
+#include <memory>
+
 #include "host/record_file.hpp"
 #include "pictures/catalogue.hpp"
 #include "pieces/pay_tables.hpp"
@@ -54,10 +56,6 @@ struct MenuScreen : Frame {
   Summary Framecen{*this};
 };
 
-constexpr Look cardLook(bool visible) {
-  return {.back = kBlack, .border = Border::Single, .visible = visible};
-}
-
 /// A card of the hand, on the ground that shows its mark or its group.
 struct CardFrame : Frame {
   CardFrame(Control& parent, int position)
@@ -103,8 +101,6 @@ class Table : public Game {
  public:
   Table(Form& form, Host& host)
       : uniform_(host.uniform()), file_(host.dataFiles(), "videopoker.dat"), menu_(form), table_(form) {
-    table_.Command1.Enabled = false;
-    table_.Command3.Enabled = false;
     for (CardFrame& card : table_.Frame1)
       onClick(card.Command2, [this, position = card.name().index] { game_.toggleMark(position); });
     onClick(table_.Command1, [this] { game_.newHand(uniform_); });
@@ -120,6 +116,7 @@ class Table : public Game {
 
   Frame& entrance() override { return menu_; }
   Button& wayBack() override { return menu_.MENUVP; }
+  void start() override { showTable(); }
   void leave() override {
     game_.leave();
     show();
@@ -143,6 +140,11 @@ class Table : public Game {
     }
     showSummary();
     menu_.Command9.Enabled = game_.mayLoad();
+    showTable();
+  }
+
+  /// What can be done at the table, and the hand, if there is one.
+  void showTable() {
     table_.Command1.Enabled = game_.phase() == Phase::Scored && !game_.spent();
     table_.Command3.Enabled = game_.phase() == Phase::Dealt && !game_.runOver();
     for (int row = kNothing; row <= kFive; ++row)

@@ -1,5 +1,6 @@
 #include "web/browser.hpp"
 
+#include <cstddef>
 #include <optional>
 #include <vector>
 

@@ -1,5 +1,9 @@
 #pragma once
 
+#include <cstdint>
+#include <span>
+#include <string>
+
 #include "host/clock_source.hpp"
 #include "host/host.hpp"
 

@@ -75,6 +75,7 @@ def play_at_random(native):
         screens.add(native.answer('screen'))
         return [control.split(' ')[0] for control in dump.split('\n')[:-1]]
 
+    assert native.answer(f'get commpr({len(ENTRIES) + 1}) Visible').startswith('error'), 'a game has no ENTRY'
     for game, entry in enumerate(ENTRIES, start=1):
         for button in BUTTONS:
             do('up ' + button)
