@@ -49,7 +49,10 @@ void Label::draw(Painter& painter, const Rect& bounds) const {
 }
 
 void PictureBox::draw(Painter& painter, const Rect& bounds) const {
-  const bool bordered = border() == Border::Single;
+  // A picture that leaves a pixel of the box all round lies within a line, drawn or not.
+  const Size size = Picture.get().size();
+  const bool bordered =
+      border() == Border::Single || (size.width == bounds.w - 2 && size.height == bounds.h - 2);
   painter.fillRect(bounds, BackColor.get().rgb());
   if (bordered) painter.enterInside(bounds);
   drawCentred(painter, bordered ? Rect{0, 0, bounds.w - 2, bounds.h - 2} : bounds, Picture, quietOn());

@@ -15,6 +15,9 @@ namespace {
 /// From one drawing to the next no more is kept than this many bytes of drawn pictures.
 constexpr std::size_t kMostPictureBytes = std::size_t{32} << 20;
 
+/// In pixels of the room: an edged place that is no thicker is nothing but a line.
+constexpr double kThickestLine = 4;
+
 /// The place of a drawing as a whole ends nowhere.
 constexpr double kEndless = std::numeric_limits<double>::infinity();
 
@@ -89,7 +92,11 @@ Painter::Stretch Painter::part(const Stretch& along, double from, double length)
 
 Painter::Stretch Painter::edged(const Stretch& along, double from, double length) const {
   Stretch part = Painter::part(along, from, length);
-  if (from + length != along.length) part.end = edge(along, from + length - 1) + thickness(1);
+  if (length <= kThickestLine) {
+    part.end = part.begin + thickness(length);
+  } else if (from + length != along.length) {
+    part.end = edge(along, from + length - 1) + thickness(1);
+  }
   return part;
 }
 
