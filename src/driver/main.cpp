@@ -1,3 +1,7 @@
+#if __has_include(<malloc.h>)
+#include <malloc.h>
+#endif
+
 #include <csignal>
 #include <iostream>
 
@@ -10,6 +14,9 @@
 int main() {
 #ifdef SIGXFSZ
   std::signal(SIGXFSZ, SIG_IGN);  // a picture that may not grow cannot be written, that is all
+#endif
+#ifdef M_MMAP_THRESHOLD
+  mallopt(M_MMAP_THRESHOLD, 1 << 17);  // bytes; the memory of a large picture goes back with the picture
 #endif
   tombolario::DataDirectory dataFiles(".");
 #ifdef TOMBOLARIO_DRAWS

@@ -92,7 +92,8 @@ Font Button::captionFont(Painter& painter, const Rect& face) const {
   Font smallest = font();
   for (const Control* child : parent()->children()) {
     const auto* fellow = dynamic_cast<const Button*>(child);
-    if (fellow == nullptr || fellow->Left != Left || fellow->Width != Width || fellow->font() != font())
+    if (fellow == nullptr || fellow->Left.get() != Left || fellow->Width.get() != Width ||
+        fellow->font() != font())
       continue;
     const Rect box{0, 0, face.w, fellow->Height / double{kTwipsPerPixel} - 8};
     const Font fitting = tombolario::captionFont(painter, box, fellow->Caption.get(), font());
