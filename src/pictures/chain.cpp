@@ -18,7 +18,7 @@ void drawTile(Painter& painter, int tile) {
   const Rect all{0, 0, kTileSize.width, kTileSize.height};
   painter.fillRect(all, kWhite);
   painter.outlineRect(all, kBlack, 2);
-  painter.fillRect({44.5, 0, 2, all.h}, kBlack);
+  painter.bar({44.5, 0, 2, all.h}, kBlack);
   const auto numeral = [&](double left, int value) {
     painter.text({left, 0, 44.5, all.h}, std::to_string(value + 1), lettering(20), kNumerals[value],
                  Align::Centre);

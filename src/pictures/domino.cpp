@@ -18,7 +18,7 @@ constexpr Slots<const PictureStore*, 0, kNumbers - 1> kFlags = slots<0, const Pi
 void drawTile(Painter& painter, int face) {
   const auto& [first, second] = kFaceNumbers[face];
   painter.fillRect(kTile, kWhite);
-  painter.fillRect({45, 0, 2, kTile.h}, kBlack);
+  painter.bar({45, 0, 2, kTile.h}, kBlack);
   painter.picture(*kFlags[first], Vec{7, 13});
   painter.picture(*kFlags[second], Vec{53, 13});
 }

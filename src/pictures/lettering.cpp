@@ -18,10 +18,7 @@ void plate(Painter& painter, Size size, double room, double capHeight, std::stri
            Rgb ground) {
   const Rect all{0, 0, static_cast<double>(size.width), static_cast<double>(size.height)};
   painter.fillRect(all, ground);
-  // What hangs below the line reaches down by a third of the capitals' height.
-  const bool hangs = text.find_first_of("gjpqy") != std::string_view::npos;
-  const double lift = hangs ? capHeight / 6 : 0;
-  fittedText(painter, {(all.w - room) / 2, -lift, room, all.h}, text, lettering(capHeight), ink);
+  fittedText(painter, {(all.w - room) / 2, 0, room, all.h}, text, lettering(capHeight), ink);
 }
 
 }  // namespace tombolario::pictures

@@ -75,20 +75,18 @@ double gapBetween(const Run& left, const Run& right) {
 }
 
 void drawRun(Painter& painter, const Run& run, const Rect& place) {
-  // A small plate hangs lower than the middle of its line: its word stands on the line.
-  const double small = rampul1.size(0).height;
-  const auto top = [&](double height) {
-    return place.y + (place.h - height) / 2 + (height == small ? 1.5 : 0);
-  };
+  // A small plate hangs a pixel lower than the middle of its line: its word stands on the line.
+  const auto top = [&](double height) { return std::round(place.y + (place.h - height) / 2 + 1); };
+  const double x = std::round(place.x);
   if (run.picture != nullptr) {
-    painter.picture(*run.picture, Vec{place.x, top(run.size().height)});
+    painter.picture(*run.picture, Vec{x, top(run.size().height)});
     return;
   }
   if (!run.tagged()) return painter.text(place, run.text, kFont, run.ink, Align::Centre);
-  const Rect plate{place.x, top(small), place.w, small};
-  painter.fillRect(plate, run.ground);
-  // On the line of the buttons that are shown beside it.
-  painter.text(plate.movedBy(0, -1), run.text, lettering(kSmallCapHeight), run.ink, Align::Centre);
+  const Size size{static_cast<int>(place.w), rampul1.size(0).height};
+  painter.enter({x, top(size.height), place.w, static_cast<double>(size.height)});
+  plate(painter, size, place.w, kSmallCapHeight, run.text, run.ink, run.ground);
+  painter.leave();
 }
 
 double drawLine(Painter& painter, std::span<const Run> line, double top) {

@@ -34,7 +34,7 @@ void drawPayTable(Painter& painter, int) {
   painter.fillRect({0, 0, kPayTableSize.width, kPayTableSize.height}, kRed);
   for (int row = 0; row < kPayRows; ++row) {
     const double top = std::round(kPayTable[row].top / double{kTwipsPerPixel});
-    painter.enter({0, top, kPayTableSize.width, static_cast<double>(kLitHeights[row])});
+    painter.enterEdged({0, top, kPayTableSize.width, static_cast<double>(kLitHeights[row])});
     drawPayRow(painter, row);
     painter.leave();
   }

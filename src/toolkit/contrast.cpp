@@ -7,8 +7,10 @@ namespace tombolario {
 
 namespace {
 
-/// More than large text needs, since thin strokes lose some of it to their edges.
-constexpr double kQuietContrast = 4;
+/// What is quiet is at least as far from its ground as large text must be, and a little more, since thin
+/// strokes lose some of it to their edges; at most so far that nobody takes it for what can be pressed.
+constexpr double kLeast = 3.2;
+constexpr double kMost = 3.8;
 constexpr int kSteps = 32;
 
 /// The light that a colour sends, by what the eye makes of it: 0 is black, 1 white.
@@ -38,13 +40,15 @@ double contrast(Rgb one, Rgb other) {
 }
 
 Rgb quiet(Rgb ink, Rgb ground) {
-  const bool loud = contrast(ink, ground) > kQuietContrast;
-  const Rgb outermost = contrast(kBlack, ground) > contrast(kWhite, ground) ? kBlack : kWhite;
+  const double loudness = contrast(ink, ground);
   // A loud ink moves to the ground as long as it can be read, a faint one away from it until it can.
+  const bool loud = loudness >= kLeast;
+  const double wanted = loud ? std::clamp(0.85 * loudness, kLeast, kMost) : kMost;
+  const Rgb outermost = contrast(kBlack, ground) > contrast(kWhite, ground) ? kBlack : kWhite;
   Rgb found = ink;
   for (int step = 0; step <= kSteps; ++step) {
     const Rgb next = mixed(ink, loud ? ground : outermost, 1.0 * step / kSteps);
-    const bool legible = contrast(next, ground) >= kQuietContrast;
+    const bool legible = contrast(next, ground) >= wanted;
     if (loud && !legible) break;
     found = next;
     if (!loud && legible) break;

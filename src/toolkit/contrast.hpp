@@ -11,7 +11,8 @@ Rgb mixed(Rgb from, Rgb to, double share);
 /// text can be read from 3 on.
 double contrast(Rgb one, Rgb other);
 
-/// An ink for what is out of use: as near to the ground as can still be read, and of the ink's own hue.
+/// An ink for what is out of use: the ink, nearer to the ground, as long as it can be read there. An ink that
+/// is too faint for that moves the other way, to black or white.
 Rgb quiet(Rgb ink, Rgb ground);
 
 }  // namespace tombolario

@@ -88,6 +88,29 @@ Control* Control::at(Point point) {
   return this;
 }
 
+/// Where something else lies against a child without lines of its own, or a pixel of the ground, which is a
+/// line, lies between the two. What lies on a picture lies between the picture's lines.
+Sides Control::linesAgainst(const Control& child, const Rect& box) const {
+  if (Picture.get()) return {true, true, true, true};
+  const auto within = [](double from, double length, double otherFrom, double otherLength) {
+    return from < otherFrom + otherLength && otherFrom < from + length;
+  };
+  Sides lines;
+  for (const Control* other : children_) {
+    if (other == &child || !other->Visible) continue;
+    const Rect near = pixels({other->Left, other->Top}, other->Width, other->Height);
+    if (within(box.y, box.h, near.y, near.h)) {
+      lines.left |= near.x + near.w == box.x - 1;
+      lines.right |= near.x == box.x + box.w || near.x == box.x + box.w + 1;
+    }
+    if (within(box.x, box.w, near.x, near.w)) {
+      lines.top |= near.y + near.h == box.y - 1;
+      lines.bottom |= near.y == box.y + box.h || near.y == box.y + box.h + 1;
+    }
+  }
+  return lines;
+}
+
 void Control::paint(Painter& painter, const Rect& bounds) const {
   draw(painter, bounds);
   if (children_.empty()) return;
@@ -95,11 +118,7 @@ void Control::paint(Painter& painter, const Rect& bounds) const {
   for (const Control* child : children_) {
     if (!child->Visible) continue;
     const Rect box = pixels({child->Left, child->Top}, child->Width, child->Height);
-    if (child->edged()) {
-      painter.enterEdged(box);
-    } else {
-      painter.enterPlain(box);
-    }
+    painter.enterEdged(box, child->edged() ? Sides{} : linesAgainst(*child, box));
     child->paint(painter, {0, 0, box.w, box.h});
     painter.leave();
   }

@@ -130,6 +130,7 @@ class Control {
 
  private:
   bool contains(Point point) const;
+  Sides linesAgainst(const Control& child, const Rect& box) const;
   static Control& made(Control& parent, const Name& child);
 
   /// Only a control that has been made says that it is itself.

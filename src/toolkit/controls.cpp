@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cmath>
 #include <optional>
+#include <utility>
 
 #include "toolkit/caption.hpp"
 #include "toolkit/contrast.hpp"
@@ -22,14 +23,16 @@ void drawBorder(Painter& painter, const Rect& bounds, Border border) {
   }
 }
 
-/// At its own size, on whole pixels.
+/// A size in the middle of the bounds, on whole pixels.
+Rect centred(const Rect& bounds, Size size) {
+  const double width = size.width;
+  const double height = size.height;
+  return {bounds.x + std::floor((bounds.w - width + 1) / 2),
+          bounds.y + std::floor((bounds.h - height + 1) / 2), width, height};
+}
+
 void drawCentred(Painter& painter, const Rect& bounds, const PictureId& picture, std::optional<Rgb> quietOn) {
-  const double width = picture.size().width;
-  const double height = picture.size().height;
-  painter.picture(picture,
-                  {bounds.x + std::floor((bounds.w - width + 1) / 2),
-                   bounds.y + std::floor((bounds.h - height + 1) / 2), width, height},
-                  quietOn);
+  painter.picture(picture, centred(bounds, picture.size()), quietOn);
 }
 
 }  // namespace
@@ -54,8 +57,16 @@ void PictureBox::draw(Painter& painter, const Rect& bounds) const {
   const bool bordered =
       border() == Border::Single || (size.width == bounds.w - 2 && size.height == bounds.h - 2);
   painter.fillRect(bounds, BackColor.get().rgb());
+  const Rect inside = bordered ? Rect{0, 0, bounds.w - 2, bounds.h - 2} : bounds;
   if (bordered) painter.enterInside(bounds);
-  drawCentred(painter, bordered ? Rect{0, 0, bounds.w - 2, bounds.h - 2} : bounds, Picture, quietOn());
+  if (children().empty()) {
+    drawCentred(painter, inside, Picture, quietOn());
+  } else {
+    // Its lines are those between which the children lie: they are drawn in place, not copied.
+    painter.enter(centred(inside, size));
+    Picture.get().draw(painter);
+    painter.leave();
+  }
   if (bordered) painter.leave();
   drawBorder(painter, bounds, border());
 }
@@ -87,17 +98,24 @@ void Button::draw(Painter& painter, const Rect& bounds) const {
   drawEdge(painter, bounds, !Enabled ? Edge::Flat : down ? Edge::Pressed : Edge::Raised);
 }
 
-/// Buttons of one width above each other have letters of one height.
+/// Buttons of one width that stand on each other have letters of one height.
 Font Button::captionFont(Painter& painter, const Rect& face) const {
+  int top = Top;
+  int bottom = Top + Height;
   Font smallest = font();
-  for (const Control* child : parent()->children()) {
-    const auto* fellow = dynamic_cast<const Button*>(child);
-    if (fellow == nullptr || fellow->Left.get() != Left || fellow->Width.get() != Width ||
-        fellow->font() != font())
-      continue;
-    const Rect box{0, 0, face.w, fellow->Height / double{kTwipsPerPixel} - 8};
-    const Font fitting = tombolario::captionFont(painter, box, fellow->Caption.get(), font());
-    if (fitting.points < smallest.points) smallest = fitting;
+  for (bool grown = true; std::exchange(grown, false);) {
+    for (const Control* child : parent()->children()) {
+      const auto* fellow = dynamic_cast<const Button*>(child);
+      if (fellow == nullptr || fellow->Left.get() != Left || fellow->Width.get() != Width) continue;
+      if (fellow->Top > bottom || fellow->Top + fellow->Height < top) continue;
+      grown |= fellow->Top < top || fellow->Top + fellow->Height > bottom;
+      top = std::min(top, fellow->Top.get());
+      bottom = std::max(bottom, fellow->Top + fellow->Height);
+      if (fellow->font() != font()) continue;
+      const Rect box{0, 0, face.w, fellow->Height / double{kTwipsPerPixel} - 8};
+      const Font fitting = tombolario::captionFont(painter, box, fellow->Caption.get(), font());
+      if (fitting.points < smallest.points) smallest = fitting;
+    }
   }
   return smallest;
 }
@@ -108,12 +126,12 @@ void TileButton::draw(Painter& painter, const Rect& bounds) const {
   const Rgb face = BackColor.get().rgb();
   const Rgb side = mixed(face, kBlack, down ? 0.15 : 0.35);
   painter.fillRect(bounds, face);
-  const Rect top{bounds.x + 1, bounds.y + 1, bounds.w - 2 - kBody, bounds.h - 2 - kBody};
-  drawCentred(painter, down ? top.movedBy(1, 1) : top, Picture, quietOn());
   painter.bevel(bounds, 0, mixed(face, kBlack, 0.5), mixed(face, kBlack, 0.7));
   for (int layer = 1; layer <= kBody; ++layer) {
     painter.bevel(bounds, layer, layer == 1 && !down ? mixed(face, kWhite, 0.6) : face, side);
   }
+  const Rect top{bounds.x + 1, bounds.y + 1, bounds.w - 2 - kBody, bounds.h - 2 - kBody};
+  drawCentred(painter, down ? top.movedBy(1, 1) : top, Picture, quietOn());
 }
 
 void OptionButton::changed() {

@@ -90,11 +90,13 @@ Painter::Stretch Painter::part(const Stretch& along, double from, double length)
   return {along.scale, along.first + from, length, begin, std::max(begin, edge(along, from + length))};
 }
 
-Painter::Stretch Painter::edged(const Stretch& along, double from, double length) const {
+Painter::Stretch Painter::edged(const Stretch& along, double from, double length, bool lineBefore,
+                                bool lineBehind) const {
   Stretch part = Painter::part(along, from, length);
+  if (lineBefore && from != 0) part.begin = edge(along, from - 1) + thickness(1);
   if (length <= kThickestLine) {
     part.end = part.begin + thickness(length);
-  } else if (from + length != along.length) {
+  } else if (!lineBehind && from + length != along.length) {
     part.end = edge(along, from + length - 1) + thickness(1);
   }
   return part;
@@ -148,6 +150,14 @@ void Painter::fillRect(const Rect& rect, Rgb colour) {
     ground_ = colour;
   canvas_.fillRect({x.begin, y.begin, x.end - x.begin, y.end - y.begin},
                    ground_ == colour ? colour : ink(colour));
+}
+
+void Painter::bar(const Rect& rect, Rgb colour) {
+  const auto [x, y] = area(rect);
+  const bool upright = rect.w < rect.h;
+  canvas_.fillRect({x.begin, y.begin, upright ? thickness(rect.w) : x.end - x.begin,
+                    upright ? y.end - y.begin : thickness(rect.h)},
+                   ink(colour));
 }
 
 void Painter::outlineRect(const Rect& rect, Rgb colour, double width) {
@@ -246,19 +256,10 @@ void Painter::push(const Place& place) {
 
 void Painter::enter(const Rect& rect) { push(area(rect)); }
 
-void Painter::enterPlain(const Rect& rect) {
+void Painter::enterEdged(const Rect& rect, const Sides& lines) {
   const auto& [x, y] = places_.back();
-  const auto reaching = [this](const Stretch& along, double from, double length) {
-    Stretch part = Painter::part(along, from, length);
-    part.end = std::max(part.end, edged(along, from, length).end);
-    return part;
-  };
-  push({reaching(x, rect.x, rect.w), reaching(y, rect.y, rect.h)});
-}
-
-void Painter::enterEdged(const Rect& rect) {
-  const auto& [x, y] = places_.back();
-  push({edged(x, rect.x, rect.w), edged(y, rect.y, rect.h)});
+  push(
+      {edged(x, rect.x, rect.w, lines.left, lines.right), edged(y, rect.y, rect.h, lines.top, lines.bottom)});
 }
 
 void Painter::enterInside(const Rect& rect) {

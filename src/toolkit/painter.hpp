@@ -29,6 +29,14 @@ struct Font {
 
 enum class Align { Left, Centre, Right };
 
+/// Some sides of a box.
+struct Sides {
+  bool left = false;
+  bool top = false;
+  bool right = false;
+  bool bottom = false;
+};
+
 /// How many device pixels something of that size in pixels takes at that scale: at least one each way.
 Size deviceSize(Size size, double scale);
 
@@ -64,6 +72,8 @@ class Painter {
 
   /// What is a pixel wide or high, or less, is a line.
   void fillRect(const Rect& rect, Rgb colour);
+  /// An upright or level line as thick as the rectangle, and as thick as its like elsewhere.
+  void bar(const Rect& rect, Rgb colour);
   /// A frame of that line width inside the rectangle; never thinner than one device pixel.
   void outlineRect(const Rect& rect, Rgb colour, double width);
   /// Lines along the inside of the rectangle, within as many layers of other lines: left and top in one
@@ -87,11 +97,9 @@ class Painter {
 
   /// Makes the rectangle the present place, until the matching leave.
   void enter(const Rect& rect);
-  /// The same for what has lines along its edges: its last lines begin where their pixels begin, so that what
-  /// overlaps it by a pixel shares the line.
-  void enterEdged(const Rect& rect);
-  /// The same for what has no lines, and may lie against both kinds: it reaches as far as either would.
-  void enterPlain(const Rect& rect);
+  /// The same for a control: its last lines begin where their pixels begin, so that what overlaps it by a
+  /// pixel shares the line. Where a line of something else lies against it, it begins or ends at that line.
+  void enterEdged(const Rect& rect, const Sides& lines = {});
   /// The same for what lies within one line along the inside of the rectangle.
   void enterInside(const Rect& rect);
   void leave();
@@ -125,7 +133,7 @@ class Painter {
   static double edge(const Stretch& along, double at);
   static double point(const Stretch& along, double at);
   static Stretch part(const Stretch& along, double from, double length);
-  Stretch edged(const Stretch& along, double from, double length) const;
+  Stretch edged(const Stretch& along, double from, double length, bool lineBefore, bool lineBehind) const;
   Stretch inside(const Stretch& along) const;
   Stretch filled(const Stretch& along, double from, double length) const;
   Place area(const Rect& rect) const;
