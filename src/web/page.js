@@ -1,9 +1,10 @@
 // Opens the room on the page's canvas and brings the pointer to it.
+import {openReading} from './reading.js';
 import openModule from './tombolario.js';
 
 const canvas = document.querySelector('canvas');
 
-function play(room) {
+function play(room, reading) {
   const page = room._page_open();
 
   let frame = 0;
@@ -47,6 +48,17 @@ function play(room) {
     drawSoon();
   }
 
+  reading.open({
+    point(x, y, buttons) {
+      room._page_pointer_in_room(page, x, y, buttons);
+      drawSoon();
+    },
+    lose() {
+      end();
+      drawSoon();
+    },
+  });
+
   for (const type of ['pointermove', 'pointerdown', 'pointerup']) canvas.addEventListener(type, point);
   canvas.addEventListener('pointercancel', cancel);
   // What a browser does by itself: a menu, scrolling, a page back or forward.
@@ -68,7 +80,8 @@ function play(room) {
 }
 
 try {
-  play(await openModule({canvas}));
+  const reading = openReading(document.querySelector('main'), document.querySelector('[role=status]'));
+  play(await openModule({canvas, reading}), reading);
   navigator.serviceWorker?.register('offline.js').catch(() => {});
 } catch (error) {
   document.body.textContent = `Tombolario: la pagina non si apre: ${error.message}`;
