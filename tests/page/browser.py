@@ -108,6 +108,33 @@ class Browser(webdriver.Chrome):
         touch({'type': 'touchStart', 'touchPoints': [{'x': x, 'y': y}]})
         touch({'type': end, 'touchPoints': []})
 
+    def key(self, key):
+        code = {'Tab': 9, 'Enter': 13, ' ': 32, 'ArrowUp': 38, 'ArrowDown': 40}[key]
+        for kind in 'rawKeyDown', 'keyUp':
+            self.execute_cdp_cmd('Input.dispatchKeyEvent', {
+                'type': kind, 'key': key, 'windowsVirtualKeyCode': code})
+
+    def walk_to(self, name):
+        """By the tabulator to what is called so, or begins so."""
+        for _ in range(120):
+            heard = self.execute_script('return document.activeElement.getAttribute("aria-label")')
+            if (heard or '').startswith(name):
+                return heard
+            self.key('Tab')
+        raise AssertionError(f'no way leads to {name}')
+
+    def tree(self):
+        """What a screen reader is given: role, name and value of all that is in the accessibility tree."""
+        nodes = self.execute_cdp_cmd('Accessibility.getFullAXTree', {})['nodes']
+        return [tuple(node.get(part, {}).get('value') for part in ('role', 'name', 'value'))
+                for node in nodes if not node['ignored']]
+
+    def draw(self):
+        self.execute_script('room.draw()')
+
+    def news(self):
+        return self.execute_script('return document.querySelector("[role=status]").textContent')
+
     def pixel(self, x, y):
         """The colour of a pixel of the canvas, as RRGGBB, once what has changed is drawn."""
         return self.execute_async_script('''

@@ -7,8 +7,10 @@ those of the driver hold, control by control."""
 
 import base64
 import hashlib
+import itertools
 import pathlib
 import random
+import re
 import subprocess
 import sys
 import tempfile
@@ -20,6 +22,8 @@ PAGE, SCRIPTED, DRIVER = (pathlib.Path(argument).resolve() for argument in sys.a
 BUTTONS = ['left', 'right', 'middle']  # that the driver knows
 SCREENS = {'Frameprincipale', 'Frame2', 'Frame2BIS', 'Frame3', 'Frame3BIS', 'FRAME5', 'Frame5BIS', 'Frame4',
            'Frame4BIS', 'frame6', 'Frame6bis', 'Frame7'}
+# Roles that a player hears the name of.
+SAID = {'button', 'radio', 'radiogroup', 'scrollbar', 'image', 'StaticText', 'main'}
 # Of each game, in the order of the menu: the button that starts it. Then what leads back to the menu.
 ENTRIES = ('Command44', 'Command8', 'giocodom', 'INICAT', 'GIOCORAM', 'Commah(1)')
 EXITS = ('Command55', 'menupok', 'Command5', 'MENUVP', 'FINEDOM', 'MENUDOM', 'FINECA', 'menucat', 'ramesc',
@@ -264,12 +268,69 @@ class ScriptedPage(PageCase):
             self.assertEqual(self.browser.execute_script("return localStorage['tombolario/videopoker.dat']"),
                              'not base64!')
 
-    def test_the_other_games_by_the_mouse(self):
-        self.click('commpr(5)', 'GIOCORAM', 'mazzoram', 'ramlas', 'ramturncom', 'ramesc', 'MENURAM')
-        self.click('commpr(6)', 'Commah(1)', 'Commah(6)', 'ELPEDMAH', 'Command17')
-        self.click('commpr(3)', 'giocodom', 'LEF(1)', 'Commdomban', 'FINEDOM', 'MENUDOM')
-        self.click('commpr(1)', 'Command44', 'Command33')
-        self.assertEqual(self.both('screen'), 'Frame2BIS')
+    def press(self, key='Enter', **names):
+        """Walks to each name and presses a key there, and clicks its control in the driver."""
+        for control, name in names.items():
+            control = re.sub(r'_(\d+)$', r'(\1)', control)
+            self.browser.walk_to(name)
+            self.browser.key(key)
+            self.assertEqual(self.native.answer('click ' + control), 'ok')
+            self.browser.draw()
+            self.compare(control)
+            tree = self.browser.tree()
+            self.assertEqual([node for node in tree if node[0] in SAID and not node[1]], [], control)
+            self.assertTrue([node for node in tree if node[0] == 'button'])
+
+    def test_every_game_by_the_keyboard_and_the_accessibility_tree(self):
+        self.both('seed 3')
+        self.press(commpr_1='POKER')
+        self.browser.walk_to('Per configurazione')
+        self.browser.key('ArrowDown')
+        self.native.answer('click Op1')
+        self.compare('the arrow chooses the other option')
+        self.press(Command44='GIOCO', Command22_0='Segna')
+        self.assertIn('segnata', self.browser.news())
+        self.assertTrue(self.browser.walk_to('Segna').endswith('segnata'), 'the focus stays')
+        self.press(Command33='CAMBIA CARTE')
+        self.assertRegex(self.browser.news(), 'fondo verde.*COMPUTER: coppia 2')
+        self.press(Command55='EXIT', menupok="MENU'")
+        self.press(commpr_2='VIDEOPOKER', Command8='NUOVA PARTITA', Command2_0='Segna', Command3='CAMBIA CARTE',
+                   Command1='NUOVA MANO', Command5='TERMINA', MENUVP="MENU'", key=' ')
+        self.press(commpr_3='DOMINO', giocodom='GIOCO')
+        for slot, (array, end) in itertools.product(range(1, 15), (('LEF', 'sx'), ('RIGHT', 'dx'))):
+            self.browser.key('Tab')
+            self.press(**{f'{array}_{slot}': end})
+            if 'PEDINE, HUMAN: 13' in self.browser.news():
+                break
+        self.press(Commdomban='SCELTA COMPUTER')
+        self.assertIn('capo', self.browser.news())
+        self.press(FINEDOM='FINE', MENUDOM="MENU'", commpr_4='DOMINO/POKER', INICAT='NUOVA PARTITA',
+                   Comscam_1='SCAMBIO', Comsost_1='SOSTITUZIONE', nmcat='NUOVA MANO', FINECA='FINE')
+        self.press(menucat="MENU'", commpr_5='RAMINO', GIOCORAM='GIOCO')
+        self.assertIn(('scrollbar', 'scarti', 0), self.browser.tree(), 'with nothing to scroll, too')
+        self.press(mazzoram='MAZZO', ramCom_0='scambia con la carta presa', ramturncom='TURNO DEL COMPUTER')
+        self.browser.walk_to('scarti')
+        self.browser.key('ArrowUp')
+        self.native.answer('scroll VScrollram1 0')
+        self.compare('the arrow moves the bar')
+        self.press(ramesc='ESCI', MENURAM="MENU'", commpr_6='MAHJONGG')
+        self.take_a_pair()
+        self.press(Command17='EXIT')
+
+    def take_a_pair(self):
+        """Two tiles of a kind at the ends of their rows, above or below."""
+        free = {}
+        for _, name, _ in self.browser.tree():
+            heard = re.fullmatch(r'(.+), fila (\d+), posto (\d+), fondo (bianco|grigio)', name or '')
+            if not heard:
+                continue
+            kind, row, place, layer = heard[1], int(heard[2]), int(heard[3]), heard[4]
+            if place in ((1, 8) if layer == 'grigio' else (3, 6)):
+                cell = 8 * row - 8 + place if layer == 'grigio' else 78 + 4 * row - 4 + place
+                free.setdefault(kind, []).append((f'Commah_{cell}', name))
+        kind, pair = next((kind, tiles[:2]) for kind, tiles in free.items() if len(tiles) > 1)
+        self.press(**dict(pair), ELPEDMAH='ELIMINA PEDINE')
+        self.assertIn(f'{kind}: 2', self.browser.news())
 
     def test_any_mixture_of_moves_and_buttons(self):
         self.click('CLINK(1)')
