@@ -133,7 +133,8 @@ std::string pictureBeside(const Control& control) {
 /// A number speaks of the label that it continues.
 std::string labelBefore(const Control& control) {
   for (const Control* other : control.parent()->children()) {
-    if (other != &control && other->role() == Role::Text && other->Visible && other->Top == control.Top.get() &&
+    if (other != &control && other->role() == Role::Text && other->Visible &&
+        other->Top == control.Top.get() &&
         std::abs(right(boxOf(*other)) - control.Left) <= 2 * kTwipsPerPixel)
       return oneLine(other->Caption);
   }

@@ -60,7 +60,16 @@ std::string lineOf(const Reading& reading) {
 void Page::fit(int width, int height, double density) {
   view_.fit(width, height);
   density_ = density;
-  reading_place(view_.marginX() / density, view_.marginY() / density, view_.scale() / density);
+  placed();
+}
+
+void Page::enlarge(double times, Vec from, Vec to) {
+  view_.enlarge(times, from, to);
+  placed();
+}
+
+void Page::placed() {
+  reading_place(view_.marginX() / density_, view_.marginY() / density_, view_.scale() / density_);
   showCursor();
 }
 
@@ -119,6 +128,11 @@ extern "C" {
 EMSCRIPTEN_KEEPALIVE void page_fit(Page* page, int width, int height, double density) {
   page->fit(width, height, density);
 }
+EMSCRIPTEN_KEEPALIVE void page_enlarge(Page* page, double times, double fromX, double fromY, double toX,
+                                       double toY) {
+  page->enlarge(times, {fromX, fromY}, {toX, toY});
+}
+EMSCRIPTEN_KEEPALIVE bool page_enlarged(const Page* page) { return page->enlarged(); }
 EMSCRIPTEN_KEEPALIVE void page_pointer(Page* page, double x, double y, unsigned buttons) {
   page->pointer(x, y, buttons);
 }

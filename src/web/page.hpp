@@ -15,6 +15,9 @@ class Page {
 
   /// The canvas is empty and has that size now, and that many device pixels to a unit of the style sheets.
   void fit(int width, int height, double density);
+  /// What was at one place of the canvas comes to another, that many times as large.
+  void enlarge(double times, Vec from, Vec to);
+  bool enlarged() const { return view_.enlarged(); }
   /// The pointer is there, with the buttons down that have their bits set: 1 left, 2 right, 4 middle, 8 back,
   /// 16 forward.
   void pointer(double x, double y, unsigned buttons);
@@ -30,6 +33,7 @@ class Page {
   void forget() { view_.forget(); }
 
  private:
+  void placed();
   void showCursor();
   void tell();
 

@@ -1,6 +1,7 @@
 // Opens the room on the page's canvas and brings the pointer to it.
 import {openReading} from './reading.js';
 import openModule from './tombolario.js';
+import {openTouch} from './touch.js';
 
 const canvas = document.querySelector('canvas');
 
@@ -17,6 +18,7 @@ function play(room, reading) {
   }
 
   function fit(width, height) {
+    document.body.classList.remove('enlarged');
     canvas.width = width;
     canvas.height = height;
     room._page_fit(page, width, height, width / canvas.clientWidth);
@@ -36,13 +38,31 @@ function play(room, reading) {
     if (!event.isPrimary || (holder !== null && event.pointerId !== holder)) return;
     if (holder !== null && (event.type === 'pointerdown' || (event.type === 'pointermove' && !event.buttons))) end();
     holder = event.buttons ? event.pointerId : null;
-    if (event.type === 'pointerdown') canvas.setPointerCapture(event.pointerId);
+    if (event.type === 'pointerdown' && event.pointerType !== 'touch') canvas.setPointerCapture(event.pointerId);
     const density = canvas.width / canvas.clientWidth;
     room._page_pointer(page, event.clientX * density, event.clientY * density, event.buttons & 31);
     drawSoon();
   }
 
+  const touch = openTouch({
+    press: point,
+    takeBack() {
+      if (holder === null) return;
+      end();
+      drawSoon();
+    },
+    // Lengths are units of the style sheets.
+    enlarge(times, from, to) {
+      const density = canvas.width / canvas.clientWidth;
+      room._page_enlarge(page, times, from.x * density, from.y * density, to.x * density, to.y * density);
+      document.body.classList.toggle('enlarged', room._page_enlarged(page));
+      drawSoon();
+    },
+    enlarged: () => room._page_enlarged(page),
+  });
+
   function cancel(event) {
+    touch(event);
     if (event.pointerId !== holder) return;
     end();
     drawSoon();
@@ -59,7 +79,9 @@ function play(room, reading) {
     },
   });
 
-  for (const type of ['pointermove', 'pointerdown', 'pointerup']) canvas.addEventListener(type, point);
+  for (const type of ['pointermove', 'pointerdown', 'pointerup']) {
+    canvas.addEventListener(type, (event) => (event.pointerType === 'touch' ? touch : point)(event));
+  }
   canvas.addEventListener('pointercancel', cancel);
   // What a browser does by itself: a menu, scrolling, a page back or forward.
   for (const type of ['contextmenu', 'mousedown', 'mouseup', 'auxclick']) {
@@ -72,10 +94,15 @@ function play(room, reading) {
 
   // The first call comes before the first frame. Not every browser tells the size in device pixels.
   const exact = 'devicePixelContentBoxSize' in ResizeObserverEntry.prototype;
+  // One that shows another density than it has tells that size of its own.
+  const device = (told, length) => {
+    const expected = length * devicePixelRatio;
+    return Math.round(Math.abs(told - expected) <= 1 ? told : expected);
+  };
   new ResizeObserver(([entry]) => {
-    const {inlineSize, blockSize} = exact ? entry.devicePixelContentBoxSize[0] : entry.contentBoxSize[0];
-    const density = exact ? 1 : devicePixelRatio;
-    fit(Math.round(inlineSize * density), Math.round(blockSize * density));
+    const {inlineSize, blockSize} = entry.contentBoxSize[0];
+    const told = exact ? entry.devicePixelContentBoxSize[0] : {};
+    fit(device(told.inlineSize, inlineSize), device(told.blockSize, blockSize));
   }).observe(canvas, {box: exact ? 'device-pixel-content-box' : 'content-box'});
 }
 

@@ -14,6 +14,7 @@ import re
 import subprocess
 import sys
 import tempfile
+import time
 import unittest
 
 from browser import BITS, PATIENCE, Browser, Site
@@ -378,6 +379,32 @@ class ScriptedPage(PageCase):
         self.assertEqual(self.browser.answer('screen'), 'Frame3', 'a press that is taken away clicks nothing')
         self.browser.tap(*self.browser.where('MENUVP'))
         self.assertEqual(self.browser.answer('screen'), 'Frameprincipale')
+
+    def test_two_fingers_enlarge_and_press_nothing(self):
+        hint = 'return getComputedStyle(document.querySelector("#turn")).display'
+        where = 'return document.querySelector("main").style.transform.match(/[-.\\d]+/g).map(Number)'
+        for width, height, told in (390, 844, 'block'), (844, 390, 'none'):
+            self.browser.resize(width, height, density=3)
+            self.browser.wait(f'return document.querySelector("canvas").width == {3 * width}')
+            self.assertEqual(self.browser.execute_script(hint), told)
+            x, y = self.browser.where('commpr(2)')
+            fitting = left, top, scale = self.browser.execute_script(where)
+            for reach in 40, 150:
+                self.browser.pinch(x, y, reach)
+            left, top, enlarged = self.browser.execute_script(where)
+            self.assertAlmostEqual(enlarged, 4 * scale, places=3)
+            self.assertTrue(-792 * enlarged + width <= left <= 0 and -573 * enlarged + height <= top <= 0)
+            self.assertEqual(self.browser.execute_script(hint), 'none')
+            time.sleep(0.4)
+            self.assertEqual(self.browser.answer('screen'), 'Frameprincipale')
+            x, y = left + 396 * enlarged, top + 156 * enlarged
+            self.assertEqual(self.browser.pixel(round(3 * x), round(3 * (y + 14 * enlarged))), '00ffff')
+            self.browser.tap(x, y)
+            self.assertEqual(self.browser.answer('screen'), 'Frame3')
+            self.browser.tap(x, y)
+            self.assertEqual(self.browser.execute_script(where), fitting)
+            self.assertEqual(self.browser.answer('click MENUVP'), 'ok')
+            self.browser.draw()
 
     def test_a_long_random_session_of_all_games(self):
         lines, digests, screens = play_at_random(self.native)
