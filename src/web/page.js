@@ -44,6 +44,14 @@ function play(room, reading) {
     drawSoon();
   }
 
+  // Lengths are units of the style sheets.
+  function enlarge(times, from, to) {
+    const density = canvas.width / canvas.clientWidth;
+    room._page_enlarge(page, times, from.x * density, from.y * density, to.x * density, to.y * density);
+    document.body.classList.toggle('enlarged', room._page_enlarged(page));
+    drawSoon();
+  }
+
   const touch = openTouch({
     press: point,
     takeBack() {
@@ -51,13 +59,7 @@ function play(room, reading) {
       end();
       drawSoon();
     },
-    // Lengths are units of the style sheets.
-    enlarge(times, from, to) {
-      const density = canvas.width / canvas.clientWidth;
-      room._page_enlarge(page, times, from.x * density, from.y * density, to.x * density, to.y * density);
-      document.body.classList.toggle('enlarged', room._page_enlarged(page));
-      drawSoon();
-    },
+    enlarge,
     enlarged: () => room._page_enlarged(page),
   });
 
@@ -76,6 +78,9 @@ function play(room, reading) {
     lose() {
       end();
       drawSoon();
+    },
+    showAll() {
+      if (room._page_enlarged(page)) enlarge(0, {x: 0, y: 0}, {x: 0, y: 0});
     },
   });
 

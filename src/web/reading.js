@@ -193,6 +193,12 @@ export function openReading(stage, status) {
     held = null;
     mouse.lose();
   });
+  // In an enlarged room the focus may go where nobody sees it.
+  stage.addEventListener('focusin', ({target}) => {
+    const {left, top, right, bottom} = target.getBoundingClientRect();
+    const inSight = left >= 0 && top >= 0 && right <= innerWidth && bottom <= innerHeight;
+    if (mouse && target !== stage && !inSight) mouse.showAll();
+  });
   // A screen reader's own press.
   stage.addEventListener('click', (event) => {
     if (mouse && ['button', 'radio'].includes(event.target.reading?.role)) press(event.target);

@@ -114,6 +114,7 @@ class Browser(webdriver.Chrome):
             points = [{'x': x + way, 'y': y + way, 'id': finger} for finger, way in enumerate(fingers)]
             self.execute_cdp_cmd('Input.dispatchTouchEvent', {'type': kind, 'touchPoints': points})
         touch('touchStart', -10)
+        time.sleep(0.1)
         touch('touchStart', -10, 10)
         for way in range(10, reach + 1, 5):
             touch('touchMove', -way, way)

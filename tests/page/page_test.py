@@ -403,6 +403,10 @@ class ScriptedPage(PageCase):
             self.assertEqual(self.browser.answer('screen'), 'Frame3')
             self.browser.tap(x, y)
             self.assertEqual(self.browser.execute_script(where), fitting)
+            self.browser.pinch(x, y, 150)
+            self.browser.walk_to('NUOVA PARTITA')
+            self.browser.walk_to("MENU'")
+            self.assertEqual(self.browser.execute_script(where), fitting, 'the focus is in sight')
             self.assertEqual(self.browser.answer('click MENUVP'), 'ok')
             self.browser.draw()
 
