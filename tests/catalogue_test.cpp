@@ -110,6 +110,35 @@ TEST(Catalogue, HoldsEveryPictureAtItsSizeAndNoOther) {
   EXPECT_FALSE(pictures::find("Picture1"));
 }
 
+TEST(Catalogue, EveryPictureHasWordsOfItsOwnButOrnaments) {
+  const std::set<std::string_view> ornaments{"Picture3", "Picture4", "Label13",
+                                             "Label4",   "Label9",   "striscie"};
+  std::set<std::string> kinds;
+  for (const PictureStore* store : pictures::catalogue()) {
+    std::set<std::string> words;
+    for (int i = store->first; i < store->first + store->count; ++i)
+      words.insert(PictureId(*store, i).words());
+    EXPECT_EQ(words.contains(""), ornaments.contains(store->name)) << store->name;
+    const bool kindsAlone = store->name == "PICMAH";
+    const int different = kindsAlone                 ? 30
+                          : store->name == "dominob" ? 49
+                          : store->name == "pictca"  ? 1
+                                                     : store->count;
+    EXPECT_EQ(static_cast<int>(words.size()), different) << store->name;
+    if (kindsAlone) kinds = words;
+  }
+  for (int kind = 0; kind < 29; ++kind) kinds.erase(PictureId(pictures::IImAH, kind).words());
+  EXPECT_EQ(kinds, std::set{PictureId(pictures::ImAH).words()}) << "the bench says the names of the board";
+  const auto words = [](const char* picture) { return pictures::find(picture).words(); };
+  EXPECT_EQ(words("Picture1(0)") + ", " + words("Picture1(11)") + ", " + words("Picture1(52)"),
+            "asso rosso, donna rossa, jolly");
+  EXPECT_EQ(words("ramcar(51)"), "re bordeaux");
+  EXPECT_EQ(words("Picture2(3)"), "tessera due-uno");
+  EXPECT_EQ(words("giapponedom"), "bandiera del Giappone");
+  EXPECT_EQ(words("dominob(30)"), "tessera del Giappone e della Spagna");
+  EXPECT_EQ(words("IImAH(28)"), words("PICMAH(5)")) << "its rows run backwards there";
+}
+
 /// Every text that a picture draws, in its order.
 std::vector<std::string> textsOf(const PictureId& picture) {
   struct Reader : NullCanvas {

@@ -240,7 +240,7 @@ TEST_F(FormTest, OnlyAChangeAsksForDrawing) {
 }
 
 TEST_F(FormTest, TheCursorIsThatOfTheControlThatHasTheMouse) {
-  const PictureStore store{"hand", 0, 1, false, nullptr, nullptr};
+  const PictureStore store{"hand", 0, 1, false, ornament, nullptr, nullptr};
   first.MouseIcon = store;
   form.mouseMove(kOnFirst);
   EXPECT_FALSE(form.cursor()) << "the icon alone is not shown";

@@ -3,12 +3,14 @@
 #include <algorithm>
 #include <bitset>
 #include <cctype>
+#include <set>
 #include <string_view>
 
 #include "pictures/catalogue.hpp"
 #include "pieces/chain_set.hpp"
 #include "pieces/domino_set.hpp"
 #include "pieces/mahjongg_set.hpp"
+#include "toolkit/reading.hpp"
 
 namespace tombolario {
 
@@ -201,11 +203,27 @@ Check mahjongg(Form& form) {
   };
 }
 
+/// What can be pressed has a name and can be heard where it is, and nothing else can.
+void checkReading(Form& room) {
+  std::set<const Control*> heard;
+  for (const Reading& reading : readingOf(room)) {
+    if (reading.name.empty()) throw Violation(reading.control->name().text() + " has no name");
+    heard.insert(reading.control);
+  }
+  for (Control* control : room.controls()) {
+    const Role role = control->role();
+    if (role != Role::Button && role != Role::Tile && role != Role::Option && role != Role::Bar) continue;
+    const Point middle = control->origin() + Point{control->Width / 2, control->Height / 2};
+    if (heard.contains(control) != (room.at(middle) == control))
+      throw Violation(control->name().text() + " is heard and not there, or there and not heard");
+  }
+}
+
 }  // namespace
 
 Invariants::Invariants(Form& room)
-    : games_{{poker(room)}, {videoPoker(room)}, {domino(room)},
-             {chain(room)}, {ramino(room)},     {mahjongg(room)}} {
+    : room_(room), games_{{poker(room)}, {videoPoker(room)}, {domino(room)},
+                          {chain(room)}, {ramino(room)},     {mahjongg(room)}} {
   screens_.assign(room.children().begin(), room.children().end());
   for (const char* name : {"Label2", "Label5", "Label6", "hum1", "comp1", "scoredom1", "scoredom2",
                            "domcont1", "domcont2", "PRAMC", "PRAMH", "Lpuca", "Lmacatpu", "Llivpuca",
@@ -217,6 +235,7 @@ Invariants::Invariants(Form& room)
 }
 
 void Invariants::check() {
+  if (checks_++ % 50 == 0) checkReading(room_);
   if (visibleOf(screens_) != 1) {
     std::string names;
     for (const Control* screen : screens_) names += screen->Visible ? screen->name().text() + ' ' : "";

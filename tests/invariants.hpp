@@ -38,6 +38,8 @@ class Invariants {
     long ends = 0;
   };
 
+  Form& room_;
+  long checks_ = 0;
   std::vector<const Control*> screens_;
   std::vector<const Control*> counts_;
   std::vector<Game> games_;

@@ -23,7 +23,8 @@ class ScrollBarTest : public testing::TestWithParam<ScrollBar::Direction> {
   }
 
   Form form{"Form1", {0, 0, 3000, 3000}, kBlue, ""};
-  ScrollBar bar{form, "bar", lying() ? Box{500, 500, 1000, 100} : Box{500, 500, 100, 1000}, GetParam()};
+  ScrollBar bar{form, "bar", lying() ? Box{500, 500, 1000, 100} : Box{500, 500, 100, 1000}, GetParam(),
+                "bar"};
   std::string changes;
 };
 

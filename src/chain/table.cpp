@@ -33,7 +33,8 @@ constexpr Look hidden(Look look) {
 // clang-format off
 struct Modes : Frame {
   explicit Modes(Control& parent)
-      : Frame(parent, "framescelta", {960, 1800, 4455, 1935}, {.border = Border::Etched}) {}
+      : Frame(parent, "framescelta", {960, 1800, 4455, 1935},
+                                          {.border = Border::Etched, .about = "scambi e sostituzioni"}) {}
 
   OptionButton Optca1{*this, "Optca1", {360, 420, 3975, 375}, "1 SCAMBIO - 2 SOSTITUZIONI", true,
                       optionLook()};
@@ -58,7 +59,7 @@ struct LevelResult : Frame {
 };
 
 struct Menu : Frame {
-  explicit Menu(Form& form) : Frame(form, "Frame4", kFullSize, screenLook(0xFFFF80)) {}
+  explicit Menu(Form& form) : Frame(form, "Frame4", kFullSize, screenLook(0xFFFF80, "Domino/poker")) {}
 
   Label LCATENA{*this, "LCATENA", kTitleBar, "MISTO DOMINO/POKER", stripLook(kYellow, kBlue)};
   Modes framescelta{*this};
@@ -91,7 +92,7 @@ struct LevelScore : Frame {
 };
 
 struct Row : Frame {
-  explicit Row(Form& form) : Frame(form, "Frame4BIS", kFullSize, screenLook(0xE0E0E0)) {}
+  explicit Row(Form& form) : Frame(form, "Frame4BIS", kFullSize, screenLook(0xE0E0E0, "Domino/poker, il tavolo")) {}
 
   ControlArray<Shape, 1, kRow> Sh{[this](int i) {
     return Shape{*this, {"Sh", i}, {leftOf(i) - 360, 2280, 2175, 2775}, 5,
@@ -108,7 +109,7 @@ struct Row : Frame {
     return Button{*this, {"Comsost", i}, {leftOf(i) - 120, 4200, i == 1 ? 1665 : 1620, 495}, kSubstitution,
                   buttonLook(0xFFFF80)}; }};
   Button SCAMBIA{*this, "SCAMBIA", {3000, 960, 6135, 495}, "", buttonLook(0xC0C0C0, pictures::SC1)};
-  Label SCALABELCAT{*this, "SCALABELCAT", {9240, 960, 855, 495}, "", hidden(stripLook(kBlue, kYellow))};
+  Label SCALABELCAT{*this, "SCALABELCAT", {9240, 960, 855, 495}, "", saying("scambi fatti", hidden(stripLook(kBlue, kYellow)))};
   Button SOSTITCAT{*this, "SOSTITCAT", {480, 5400, 2535, 615}, kSubstitution, buttonLook(kUnarmed)};
   Button nmcat{*this, "nmcat", {480, 6600, 2295, 495}, "NUOVA MANO", buttonLook(kOrange)};
   Button FINECA{*this, "FINECA", {480, 7080, 2295, 495}, "", buttonLook(kRed, pictures::FINECA)};

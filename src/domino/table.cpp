@@ -75,7 +75,7 @@ struct LevelOptions : Frame {
 };
 
 struct OptionScreen : Frame {
-  explicit OptionScreen(Form& form) : Frame(form, "FRAME5", kFullSize, screenLook(kGreen)) {}
+  explicit OptionScreen(Form& form) : Frame(form, "FRAME5", kFullSize, screenLook(kGreen, "Domino, le opzioni")) {}
 
   Label DOMETIC{*this, "DOMETIC", kTitleBar, "DOMINO", stripLook(kYellow, kBlue)};
   Label domgi{*this, "domgi", {0, 375, 12120, 375}, "OPZIONI DI GIOCO", stripLook(kWhite, kRed)};
@@ -100,7 +100,8 @@ struct CountPanel : Frame {
   // The player's counters, then the computer's.
   ControlArray<Label, 0, 2 * kNumbers - 1> peddom{[this](int n) {
     return Label{*this, {"peddom", n}, {n < kNumbers ? 720 : 1320, 240 + 240 * (n % kNumbers), 615, 255}, "",
-                 {.back = kWhite, .font = {.bold = true}, .border = Border::Single}}; }};
+                 {.back = kWhite, .font = {.bold = true}, .border = Border::Single,
+                  .about = n < kNumbers ? "HUMAN" : "COMPUTER"}}; }};
 
   static constexpr Box placeOfFlag(int number) { return {240, 270 + 240 * number, 330, 210}; }
 };
@@ -110,10 +111,10 @@ struct ScoreBoard : PictureBox {
       : PictureBox(parent, "tabdom", {4320, 360, 3435, 1215},
                    {.back = kWhite, .picture = pictures::tabdom}) {}
 
-  Label domcont2{*this, "domcont2", {1515, 315, 945, 435}, "", cellLook(kWhite, kRed)};
-  Label domcont1{*this, "domcont1", {1515, 765, 945, 435}, "", cellLook(kWhite, kRed)};
-  Label scoredom2{*this, "scoredom2", {2475, 315, 945, 435}, "", cellLook(kYellow, kBlue)};
-  Label scoredom1{*this, "scoredom1", {2475, 765, 945, 435}, "", cellLook(kYellow, kBlue)};
+  Label domcont2{*this, "domcont2", {1515, 315, 945, 435}, "", saying("PEDINE, COMPUTER", cellLook(kWhite, kRed))};
+  Label domcont1{*this, "domcont1", {1515, 765, 945, 435}, "", saying("PEDINE, HUMAN", cellLook(kWhite, kRed))};
+  Label scoredom2{*this, "scoredom2", {2475, 315, 945, 435}, "", saying("SCORE, COMPUTER", cellLook(kYellow, kBlue))};
+  Label scoredom1{*this, "scoredom1", {2475, 765, 945, 435}, "", saying("SCORE, HUMAN", cellLook(kYellow, kBlue))};
 
   static constexpr Look cellLook(Colour fore, Colour back) {
     return {.back = back, .fore = fore, .font = kButtonFont};
@@ -121,17 +122,21 @@ struct ScoreBoard : PictureBox {
 };
 
 struct TableScreen : Frame {
-  explicit TableScreen(Form& form) : Frame(form, "Frame5BIS", kFullSize, screenLook(kTable)) {}
+  explicit TableScreen(Form& form) : Frame(form, "Frame5BIS", kFullSize, screenLook(kTable, "Domino, il tavolo")) {}
 
   Shape lecen{*this, "lecen", {4920, 2520, 2055, 2295}, 5, {.back = kTable, .fore = kNothing}};
   Shape lesx{*this, "lesx", {2880, 2520, 2055, 2295}, 5, {.back = kTable, .fore = kNothing}};
   Shape ledx{*this, "ledx", {6960, 2520, 2055, 2295}, 5, {.back = kTable, .fore = kNothing}};
-  PictureBox wwwdom2{*this, "wwwdom2", {3240, 2880, 1380, 780}, tileLook(true, blank())};
-  PictureBox wwwdom{*this, "wwwdom", {7320, 2880, 1380, 780}, tileLook(true, blank())};
+  PictureBox wwwdom2{*this, "wwwdom2", {3240, 2880, 1380, 780},
+                     saying("capo sinistro", tileLook(true, blank()))};
+  PictureBox wwwdom{*this, "wwwdom", {7320, 2880, 1380, 780},
+                    saying("capo destro", tileLook(true, blank()))};
   // The line: the tiles lie on each other, and the bar chooses the one that is seen.
   ControlArray<PictureBox, 0, kBoxes - 1> VISUAL{[this](int box) {
-    return PictureBox{*this, {"VISUAL", box}, {5280, 2880, 1380, 780}, tileLook(false)}; }};
-  ScrollBar HScrolldom{*this, "HScrolldom", {5040, 3960, 1815, 375}, ScrollBar::Direction::Horizontal};
+    return PictureBox{*this, {"VISUAL", box}, {5280, 2880, 1380, 780},
+                      saying("in mezzo", tileLook(false))}; }};
+  ScrollBar HScrolldom{*this, "HScrolldom", {5040, 3960, 1815, 375}, ScrollBar::Direction::Horizontal,
+                       "tessere della fila"};
   // By slot; none but the player's are ever seen.
   ControlArray<PictureBox, 0, kBlankSlot> domin{[this](int slot) {
     const bool player = slot >= kFirstOfPlayer && slot <= kLastOfPlayer;

@@ -50,7 +50,7 @@ struct Bench : Frame {
 };
 
 struct Screen : Frame {
-  explicit Screen(Form& form) : Frame(form, "Frame7", kFullSize, screenLook(0xFFE0C0)) {}
+  explicit Screen(Form& form) : Frame(form, "Frame7", kFullSize, screenLook(0xFFE0C0, "Mahjongg")) {}
 
   Board FRPEDMAH{*this};
   // The neighbours of the first and of the last cell have no tile.

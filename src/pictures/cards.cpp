@@ -4,6 +4,7 @@
 #include <cmath>
 #include <cstddef>
 #include <numbers>
+#include <string>
 
 #include "pictures/catalogue.hpp"
 #include "pictures/lettering.hpp"
@@ -16,26 +17,47 @@ namespace {
 
 using std::numbers::pi;
 
-/// The colours of a pack.
-using Suits = Slots<Rgb, 0, kSuits - 1>;
+/// The colour of a suit and its name, for a card and for a queen, who is a lady.
+struct Suit {
+  Rgb colour;
+  const char* name;
+  const char* ofQueen = name;
+};
+using Suits = Slots<Suit, 0, kSuits - 1>;
+
+/// `asso rosso`, `donna rossa`, `7 verde`.
+std::string cardWords(int card, const Suits& suits) {
+  const std::string value = kValueNames[cardValue(card)];
+  const Suit& suit = suits[card / kValues];
+  if (value == "A") return std::string("asso ") + suit.name;
+  if (value == "J") return std::string("fante ") + suit.name;
+  if (value == "Q") return std::string("donna ") + suit.ofQueen;
+  if (value == "K") return std::string("re ") + suit.name;
+  return value + ' ' + suit.name;
+}
 
 /// A flat card in the colour of its suit, its value large in the middle.
 void drawCard(Painter& painter, int card, Size size, const Suits& suits, Rgb ink) {
   const Rect all{0, 0, static_cast<double>(size.width), static_cast<double>(size.height)};
-  painter.fillRect(all, suits[card / kValues]);
+  painter.fillRect(all, suits[card / kValues].colour);
   fittedText(painter, all.inset(size.width * 0.08), kValueNames[card % kValues],
              lettering(size.height * 0.36), ink);
 }
 
 constexpr Size kVideoPokerCard{70, 92};
 constexpr Size kJokerCard{70, 93};
-constexpr Suits kVideoPokerSuits = slots<0, Rgb>({kRed, kYellow, 0x00E8E8, kGreen});
+constexpr Suits kVideoPokerSuits = slots<0, Suit>({{kRed, "rosso", "rossa"},
+                                                   {kYellow, "giallo", "gialla"},
+                                                   {0x00E8E8, "azzurro", "azzurra"},
+                                                   {kGreen, "verde"}});
 
 constexpr Size kPokerCard{70, 92};
-constexpr Suits kPokerSuits = slots<0, Rgb>({0xFF00FF, 0xFF8040, 0xFFFFB3, kBlue});
+constexpr Suits kPokerSuits =
+    slots<0, Suit>({{0xFF00FF, "fucsia"}, {0xFF8040, "arancione"}, {0xFFFFB3, "crema"}, {kBlue, "blu"}});
 
 constexpr Size kRaminoCard{40, 59};
-constexpr Suits kRaminoSuits = slots<0, Rgb>({0x008000, 0xF0BC09, 0xFF0080, 0x800000});
+constexpr Suits kRaminoSuits =
+    slots<0, Suit>({{0x008000, "verde"}, {0xF0BC09, "oro"}, {0xFF0080, "rosa"}, {0x800000, "bordeaux"}});
 
 /// One of the gores of a ball whose pole leans upwards, away from who looks: between two meridians, from the
 /// pole to where they go round to the far side.
@@ -87,6 +109,10 @@ void drawJoker(Painter& painter) {
   drawBall(painter, {35, 58.5}, 21.5);
 }
 
+std::string videoPokerCardWords(int card) {
+  return card == kJoker ? "jolly" : cardWords(card, kVideoPokerSuits);
+}
+
 void drawVideoPokerCard(Painter& painter, int card) {
   if (card == kJoker) return drawJoker(painter);
   drawCard(painter, card, kVideoPokerCard, kVideoPokerSuits, kBlack);
@@ -100,13 +126,14 @@ void drawRaminoCard(Painter& painter, int card) {
 
 }  // namespace
 
-constinit const PictureStore Picture1{"Picture1",
-                                      0,
-                                      kPack + 1,
-                                      true,
-                                      [](int card) { return card == kJoker ? kJokerCard : kVideoPokerCard; },
-                                      drawVideoPokerCard};
-constinit const PictureStore Picture11 = pictureRow<kPokerCard>("Picture11", 0, kPack, drawPokerCard);
-constinit const PictureStore ramcar = pictureRow<kRaminoCard>("ramcar", 0, kPack, drawRaminoCard);
+constinit const PictureStore Picture1{
+    "Picture1",          0,
+    kPack + 1,           true,
+    videoPokerCardWords, [](int card) { return card == kJoker ? kJokerCard : kVideoPokerCard; },
+    drawVideoPokerCard};
+constinit const PictureStore Picture11 = pictureRow<kPokerCard>(
+    "Picture11", 0, kPack, [](int card) { return cardWords(card, kPokerSuits); }, drawPokerCard);
+constinit const PictureStore ramcar = pictureRow<kRaminoCard>(
+    "ramcar", 0, kPack, [](int card) { return cardWords(card, kRaminoSuits); }, drawRaminoCard);
 
 }  // namespace tombolario::pictures

@@ -11,7 +11,18 @@ namespace tombolario::pictures {
 namespace {
 
 constexpr Size kTileSize{91, 45};
-constexpr Slots<Rgb, 0, 3> kNumerals = slots<0, Rgb>({kRed, 0x800000, kBlue, 0x008000});
+
+struct Numeral {
+  Rgb colour;
+  const char* word;
+};
+constexpr Slots<Numeral, 0, 3> kNumerals =
+    slots<0, Numeral>({{kRed, "uno"}, {0x800000, "due"}, {kBlue, "tre"}, {0x008000, "quattro"}});
+
+std::string tileWords(int tile) {
+  const auto& [first, second] = kChainSet[tile];
+  return std::string("tessera ") + kNumerals[first].word + '-' + kNumerals[second].word;
+}
 
 /// A value is shown as a numeral, from 1, in a colour of its own.
 void drawTile(Painter& painter, int tile) {
@@ -20,7 +31,7 @@ void drawTile(Painter& painter, int tile) {
   painter.outlineRect(all, kBlack, 2);
   painter.bar({44.5, 0, 2, all.h}, kBlack);
   const auto numeral = [&](double left, int value) {
-    painter.text({left, 0, 44.5, all.h}, std::to_string(value + 1), lettering(20), kNumerals[value],
+    painter.text({left, 0, 44.5, all.h}, std::to_string(value + 1), lettering(20), kNumerals[value].colour,
                  Align::Centre);
   };
   numeral(0.5, kChainSet[tile].first);
@@ -45,8 +56,10 @@ void drawPattern(Painter& painter, int) {
 
 }  // namespace
 
-constinit const PictureStore Picture2 = pictureRow<kTileSize>("Picture2", 0, kChainTiles, drawTile);
-constinit const PictureStore pictca = pictureRow<kPatternSize>("pictca", 0, 9, drawPattern);
+constinit const PictureStore Picture2 =
+    pictureRow<kTileSize>("Picture2", 0, kChainTiles, tileWords, drawTile);
+constinit const PictureStore pictca = pictureRow<kPatternSize>(
+    "pictca", 0, 9, [](int) { return std::string("nessuna tessera"); }, drawPattern);
 constinit const PictureStore INICAT = plateStore<"NUOVA PARTITA", Size{240, 24}, kWhite, kRed>("INICAT");
 constinit const PictureStore CoNTCAT = plateStore<"CONTINUA", Size{156, 22}, kWhite, kRed>("CoNTCAT");
 constinit const PictureStore CARCAT = plateStore<"CARICA", Size{113, 24}, kWhite, kRed>("CARCAT");

@@ -83,8 +83,10 @@ void drawArrow(Painter& painter, int) {
 
 }  // namespace
 
-constinit const PictureStore Label13 = singlePicture<kCursorSize>("Label13", drawPointingHand, {12, 1});
-constinit const PictureStore Label4 = singlePicture<kCursorSize>("Label4", drawClosedHand, {16, 14});
-constinit const PictureStore Label9 = singlePicture<kCursorSize>("Label9", drawArrow, {0, 1});
+constinit const PictureStore Label13 =
+    singlePicture<kCursorSize>("Label13", ornament, drawPointingHand, {12, 1});
+constinit const PictureStore Label4 =
+    singlePicture<kCursorSize>("Label4", ornament, drawClosedHand, {16, 14});
+constinit const PictureStore Label9 = singlePicture<kCursorSize>("Label9", ornament, drawArrow, {0, 1});
 
 }  // namespace tombolario::pictures

@@ -1,3 +1,5 @@
+#include <string>
+
 #include "pictures/catalogue.hpp"
 #include "pictures/lettering.hpp"
 #include "pictures/score_table.hpp"
@@ -13,6 +15,13 @@ constexpr Rect kTile{0, 0, kTileSize.width, kTileSize.height};
 /// By the numbers that they stand for.
 constexpr Slots<const PictureStore*, 0, kNumbers - 1> kFlags = slots<0, const PictureStore*>(
     {&spagnadom, &brasiledom, &giapponedom, &usadom, &sveziadom, &portogallodom, &danimarcadom});
+
+/// `tessera della Spagna e del Brasile`, as it lies.
+std::string tileWords(int face) {
+  const auto country = [](int number) { return PictureId(*kFlags[number]).words().substr(kFlagOf.size()); };
+  const auto& [first, second] = kFaceNumbers[face];
+  return "tessera " + country(first) + " e " + country(second);
+}
 
 /// White, a line down the middle, and the flags of both numbers.
 void drawTile(Painter& painter, int face) {
@@ -42,9 +51,11 @@ void drawScore(Painter& painter, int) {
 
 }  // namespace
 
-constinit const PictureStore dominob = pictureRow<kTileSize>("dominob", 0, kFaces, drawTile);
-constinit const PictureStore domin = pictureRow<kTileSize>("domin", kFaces, 1, drawBlank);
-constinit const PictureStore tabdom = singlePicture<Size{229, kScoreHeight}>("tabdom", drawScore);
+constinit const PictureStore dominob = pictureRow<kTileSize>("dominob", 0, kFaces, tileWords, drawTile);
+constinit const PictureStore domin = pictureRow<kTileSize>(
+    "domin", kFaces, 1, [](int) { return std::string("nessuna tessera"); }, drawBlank);
+constinit const PictureStore tabdom = singlePicture<Size{229, kScoreHeight}>(
+    "tabdom", [](int) { return std::string("tabella del punteggio"); }, drawScore);
 constinit const PictureStore Commdomban =
     plateStore<"SCELTA COMPUTER", Size{124, 14}, kYellow, kRed, 9>("Commdomban");
 constinit const PictureStore passadomban =

@@ -1,9 +1,11 @@
 #include <array>
 #include <cmath>
 #include <numbers>
+#include <string>
 #include <string_view>
 
 #include "pictures/catalogue.hpp"
+#include "pictures/lettering.hpp"
 #include "pictures/outline.hpp"
 #include "toolkit/painter.hpp"
 
@@ -123,22 +125,24 @@ void drawPortugal(Painter& painter) {
 void drawDenmark(Painter& painter) { cross(painter, 0xC8102E, kWhite); }
 
 /// A flag in a thin edge, so that it stands out on a tile of its own ground.
-template <void (*kDraw)(Painter&)>
+template <void (*kDraw)(Painter&), FixedText kOfCountry>
 constexpr PictureStore flagStore(std::string_view name) {
-  return singlePicture<kFlagSize>(name, [](Painter& painter, int) {
-    kDraw(painter);
-    painter.outlineRect(kFlag, 0x404040, 1);
-  });
+  return singlePicture<kFlagSize>(
+      name, [](int) { return std::string(kFlagOf) + kOfCountry.text; },
+      [](Painter& painter, int) {
+        kDraw(painter);
+        painter.outlineRect(kFlag, 0x404040, 1);
+      });
 }
 
 }  // namespace
 
-constinit const PictureStore spagnadom = flagStore<drawSpain>("spagnadom");
-constinit const PictureStore brasiledom = flagStore<drawBrazil>("brasiledom");
-constinit const PictureStore giapponedom = flagStore<drawJapan>("giapponedom");
-constinit const PictureStore usadom = flagStore<drawUnitedStates>("usadom");
-constinit const PictureStore sveziadom = flagStore<drawSweden>("sveziadom");
-constinit const PictureStore portogallodom = flagStore<drawPortugal>("portogallodom");
-constinit const PictureStore danimarcadom = flagStore<drawDenmark>("danimarcadom");
+constinit const PictureStore spagnadom = flagStore<drawSpain, "della Spagna">("spagnadom");
+constinit const PictureStore brasiledom = flagStore<drawBrazil, "del Brasile">("brasiledom");
+constinit const PictureStore giapponedom = flagStore<drawJapan, "del Giappone">("giapponedom");
+constinit const PictureStore usadom = flagStore<drawUnitedStates, "degli Stati Uniti">("usadom");
+constinit const PictureStore sveziadom = flagStore<drawSweden, "della Svezia">("sveziadom");
+constinit const PictureStore portogallodom = flagStore<drawPortugal, "del Portogallo">("portogallodom");
+constinit const PictureStore danimarcadom = flagStore<drawDenmark, "della Danimarca">("danimarcadom");
 
 }  // namespace tombolario::pictures

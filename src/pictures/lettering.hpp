@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cstddef>
+#include <string>
 #include <string_view>
 
 #include "toolkit/painter.hpp"
@@ -31,13 +32,16 @@ struct FixedText {
   char text[N]{};
 };
 
+/// What the words of every flag begin with; its country follows.
+inline constexpr std::string_view kFlagOf = "bandiera ";
+
 /// A store of one plate; `kCapHeight` and `kRoom`, the width left for its text, are pixels.
 template <FixedText kText, Size kSize, Rgb kInk, Rgb kGround, int kCapHeight = std::min(11, kSize.height - 5),
           int kRoom = kSize.width - 4>
 constexpr PictureStore plateStore(std::string_view name) {
-  return singlePicture<kSize>(name, [](Painter& painter, int) {
-    plate(painter, kSize, kRoom, kCapHeight, kText.text, kInk, kGround);
-  });
+  return singlePicture<kSize>(
+      name, [](int) { return std::string(kText.text); },
+      [](Painter& painter, int) { plate(painter, kSize, kRoom, kCapHeight, kText.text, kInk, kGround); });
 }
 
 }  // namespace tombolario::pictures

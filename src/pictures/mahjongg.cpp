@@ -200,38 +200,42 @@ void ring(Painter& painter) {
                       kBlack);
 }
 
-/// By kind, at the size of the bench.
-constexpr Slots<Design, 0, kKinds - 1> kDesigns = slots<0, Design>({
-    ring,
-    sun,
-    diagonals<kYellow, kBlack>,
-    checks<0xFFF0C8, kDarkRed, 5, 3>,
-    checks<kBlue, kCyan, 10, 6>,
-    numeral<'1', kDarkRed>,
-    numeral<'2', kRed>,
-    numeral<'3', 0xB09000>,
-    cross,
-    numeral<'4', kBlue>,
-    lozenge<kWhite, kRed>,
-    verticals<kRed, kYellow, kRed, kYellow, kRed>,
-    numeral<'5', kMagenta>,
-    lozenge<kBlue, kYellow>,
-    numeral<'6', 0x009000>,
-    bands<kGreen, kWhite, kRed>,
-    checks<kOrange, kYellow, 3, 2>,
-    verticals<kBlue, kWhite, kRed>,
-    lozenge<kOrange, kWhite>,
-    quarters<kRed, kYellow, kBlue, kGreen>,
-    starOnGreen,
-    tulipOnBlue,
-    numeral<'7', kOrange>,
-    bands<kBlack, kRed, kYellow>,
-    diagonals<kRed, kBlack>,
-    globe,
-    bands<kCyan, kBlack>,
-    rose,
-    quarters<kBlack, kWhite, kWhite, kBlack>,
-    bands<kOrange, kBlue, kOrange>,
+/// What a kind is called, and its drawing at the size of the bench.
+struct Kind {
+  const char* name;
+  Design design;
+};
+constexpr Slots<Kind, 0, kKinds - 1> kKindsOfTile = slots<0, Kind>({
+    {"anello con una picca", ring},
+    {"sole", sun},
+    {"strisce oblique gialle e nere", diagonals<kYellow, kBlack>},
+    {"scacchi crema e rossi", checks<0xFFF0C8, kDarkRed, 5, 3>},
+    {"scacchi fitti blu e azzurri", checks<kBlue, kCyan, 10, 6>},
+    {"uno", numeral<'1', kDarkRed>},
+    {"due", numeral<'2', kRed>},
+    {"tre", numeral<'3', 0xB09000>},
+    {"croce bianca", cross},
+    {"quattro", numeral<'4', kBlue>},
+    {"rombo rosso", lozenge<kWhite, kRed>},
+    {"strisce verticali rosse e gialle", verticals<kRed, kYellow, kRed, kYellow, kRed>},
+    {"cinque", numeral<'5', kMagenta>},
+    {"rombo giallo", lozenge<kBlue, kYellow>},
+    {"sei", numeral<'6', 0x009000>},
+    {"bande verde, bianca e rossa", bands<kGreen, kWhite, kRed>},
+    {"riquadri arancioni e gialli", checks<kOrange, kYellow, 3, 2>},
+    {"bande verticali blu, bianca e rossa", verticals<kBlue, kWhite, kRed>},
+    {"rombo bianco", lozenge<kOrange, kWhite>},
+    {"quarti di quattro colori", quarters<kRed, kYellow, kBlue, kGreen>},
+    {"stella", starOnGreen},
+    {"tulipano", tulipOnBlue},
+    {"sette", numeral<'7', kOrange>},
+    {"bande nera, rossa e gialla", bands<kBlack, kRed, kYellow>},
+    {"strisce oblique rosse e nere", diagonals<kRed, kBlack>},
+    {"globo", globe},
+    {"bande azzurra e nera", bands<kCyan, kBlack>},
+    {"rosa", rose},
+    {"quarti neri e bianchi", quarters<kBlack, kWhite, kWhite, kBlack>},
+    {"bande arancione, blu e arancione", bands<kOrange, kBlue, kOrange>},
 });
 
 /// The rows 5 to 28 of the bench show the pictures of its store from the last to the sixth.
@@ -243,7 +247,7 @@ void drawDesign(Painter& painter, Design design, Size size) {
   painter.outlineRect({0, 0, static_cast<double>(size.width), static_cast<double>(size.height)}, 0x404040, 1);
 }
 
-void drawBench(Painter& painter, int kind) { drawDesign(painter, kDesigns[kind], kSize); }
+void drawBench(Painter& painter, int kind) { drawDesign(painter, kKindsOfTile[kind].design, kSize); }
 
 /// One kind is a pixel higher on the board than on the bench.
 constexpr int kHighKind = 10;
@@ -257,13 +261,17 @@ void drawPiece(Painter& painter, int piece) {
   drawDesign(painter, lozenge<kWhite, kRed, kHighSize.height>, kHighSize);
 }
 
+std::string pieceWords(int piece) { return kKindsOfTile[kindOfPiece(piece)].name; }
+
 }  // namespace
 
-constinit const PictureStore PICMAH{"PICMAH", 0, kPieces, true, sizeOfPiece, drawPiece};
+constinit const PictureStore PICMAH{"PICMAH", 0, kPieces, true, pieceWords, sizeOfPiece, drawPiece};
 constinit const PictureStore IImAH = pictureRow<kSize>(
-    "IImAH", 0, kKinds - 1, [](Painter& painter, int index) { drawBench(painter, kindOfBench(index)); });
-constinit const PictureStore ImAH =
-    singlePicture<kSize>("ImAH", [](Painter& painter, int) { drawBench(painter, kKinds - 1); });
+    "IImAH", 0, kKinds - 1, [](int index) { return std::string(kKindsOfTile[kindOfBench(index)].name); },
+    [](Painter& painter, int index) { drawBench(painter, kindOfBench(index)); });
+constinit const PictureStore ImAH = singlePicture<kSize>(
+    "ImAH", [](int) { return std::string(kKindsOfTile[kKinds - 1].name); },
+    [](Painter& painter, int) { drawBench(painter, kKinds - 1); });
 constinit const PictureStore ELPEDMAH = plateStore<"ELIMINA PEDINE", Size{117, 13}, kWhite, kRed>("ELPEDMAH");
 constinit const PictureStore CERPEDMAH =
     plateStore<"CERCA PEDINE", Size{108, 13}, kWhite, kBlue>("CERPEDMAH");

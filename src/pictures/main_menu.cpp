@@ -13,6 +13,8 @@ namespace {
 constexpr Size kGameSize{166, 18};
 constexpr std::array kGames{"POKER", "VIDEOPOKER", "DOMINO", "DOMINO/POKER", "RAMINO", "MAHJONGG"};
 
+std::string gameWords(int index) { return kGames.at(static_cast<std::size_t>(index - 1)); }
+
 /// The number of the game at the left, then its name, white on red.
 void drawGame(Painter& painter, int index) {
   painter.fillRect({0, 0, kGameSize.width, kGameSize.height}, kRed);
@@ -37,8 +39,8 @@ constexpr Size kOrnamentSize{100, 100};
 
 }  // namespace
 
-constinit const PictureStore commpr = pictureRow<kGameSize>("commpr", 1, kGames.size(), drawGame);
-constinit const PictureStore Picture3 = singlePicture<kOrnamentSize>("Picture3", drawDiamond);
-constinit const PictureStore Picture4 = singlePicture<kOrnamentSize>("Picture4", drawDiamond);
+constinit const PictureStore commpr = pictureRow<kGameSize>("commpr", 1, kGames.size(), gameWords, drawGame);
+constinit const PictureStore Picture3 = singlePicture<kOrnamentSize>("Picture3", ornament, drawDiamond);
+constinit const PictureStore Picture4 = singlePicture<kOrnamentSize>("Picture4", ornament, drawDiamond);
 
 }  // namespace tombolario::pictures

@@ -58,6 +58,14 @@ void drawCombinations(Painter& painter, int) {
   }
 }
 
+std::string combinationWords(int) {
+  std::string words;
+  for (const auto& [name, points] : kCombinations) {
+    if (points != 0) words += std::string(words.empty() ? "" : ", ") + name + ' ' + std::to_string(points);
+  }
+  return words;
+}
+
 void drawScore(Painter& painter, int) {
   scoreCorner(painter, "", {kBlack, kWhite});
   scoreNames(painter, {kWhite, kRed}, {kWhite, kRed});
@@ -66,8 +74,11 @@ void drawScore(Painter& painter, int) {
 
 }  // namespace
 
-constinit const PictureStore ufo = singlePicture<kBackSize>("ufo", drawSaucer);
-constinit const PictureStore Pictcompok = singlePicture<kCombinationsSize>("Pictcompok", drawCombinations);
-constinit const PictureStore Picture5 = singlePicture<Size{165, kScoreHeight}>("Picture5", drawScore);
+constinit const PictureStore ufo = singlePicture<kBackSize>(
+    "ufo", [](int) { return std::string("carta coperta"); }, drawSaucer);
+constinit const PictureStore Pictcompok =
+    singlePicture<kCombinationsSize>("Pictcompok", combinationWords, drawCombinations);
+constinit const PictureStore Picture5 = singlePicture<Size{165, kScoreHeight}>(
+    "Picture5", [](int) { return std::string("tabella del punteggio"); }, drawScore);
 
 }  // namespace tombolario::pictures

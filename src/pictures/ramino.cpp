@@ -2,6 +2,7 @@
 #include <cmath>
 #include <cstddef>
 #include <cstdlib>
+#include <string>
 #include <string_view>
 
 #include "pictures/catalogue.hpp"
@@ -74,12 +75,14 @@ void drawScore(Painter& painter, int) {
 }
 
 /// The names of the sides at the end of a hand, to lie over those of the table.
-template <Inks kComputer, Inks kHuman>
+template <Inks kComputer, Inks kHuman, FixedText kWords>
 constexpr PictureStore endStore(std::string_view name) {
-  return singlePicture<kNamesSize>(name, [](Painter& painter, int) {
-    scoreCorner(painter, "FINE", {kYellow, kMagenta});
-    scoreNames(painter, kComputer, kHuman);
-  });
+  return singlePicture<kNamesSize>(
+      name, [](int) { return std::string(kWords.text); },
+      [](Painter& painter, int) {
+        scoreCorner(painter, "FINE", {kYellow, kMagenta});
+        scoreNames(painter, kComputer, kHuman);
+      });
 }
 constexpr Inks kLit{kBlue, kYellow};
 constexpr Inks kPlain{kWhite, kRed};
@@ -87,16 +90,20 @@ constexpr Inks kEven{0xFF8040, kGrey};
 
 }  // namespace
 
-constinit const PictureStore PicRAM3 = singlePicture<kCardSize>("PicRAM3", drawBack);
+constinit const PictureStore PicRAM3 = singlePicture<kCardSize>(
+    "PicRAM3", [](int) { return std::string("carta coperta"); }, drawBack);
 constinit const PictureStore rampul1 =
     plateStore<"Segna", Size{37, 13}, kWhite, kRed, kSmallCapHeight>("rampul1");
-constinit const PictureStore rampul2 = singlePicture<kExchangeSize>("rampul2", drawExchange);
+constinit const PictureStore rampul2 = singlePicture<kExchangeSize>(
+    "rampul2", [](int) { return std::string("scambia con la carta presa"); }, drawExchange);
 constinit const PictureStore ramlas =
     plateStore<"lascia", Size{46, 15}, kWhite, kBlue, kSmallCapHeight>("ramlas");
-constinit const PictureStore scambiaram = singlePicture<kSwapSize>("scambiaram", drawSwap);
-constinit const PictureStore RAMRESULT = singlePicture<kScoreSize>("RAMRESULT", drawScore);
-constinit const PictureStore rampar = endStore<kEven, kEven>("rampar");
-constinit const PictureStore ramvin = endStore<kPlain, kLit>("ramvin");
-constinit const PictureStore ramper = endStore<kLit, kPlain>("ramper");
+constinit const PictureStore scambiaram = singlePicture<kSwapSize>(
+    "scambiaram", [](int) { return std::string("scambia le due carte scelte"); }, drawSwap);
+constinit const PictureStore RAMRESULT = singlePicture<kScoreSize>(
+    "RAMRESULT", [](int) { return std::string("tabella del punteggio"); }, drawScore);
+constinit const PictureStore rampar = endStore<kEven, kEven, "FINE, pari">("rampar");
+constinit const PictureStore ramvin = endStore<kPlain, kLit, "FINE, vince HUMAN">("ramvin");
+constinit const PictureStore ramper = endStore<kLit, kPlain, "FINE, vince COMPUTER">("ramper");
 
 }  // namespace tombolario::pictures

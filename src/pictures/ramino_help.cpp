@@ -3,6 +3,7 @@
 #include <cmath>
 #include <cstddef>
 #include <span>
+#include <string>
 #include <string_view>
 
 #include "pictures/catalogue.hpp"
@@ -104,6 +105,19 @@ double drawLine(Painter& painter, std::span<const Run> line, double top) {
   return top + height;
 }
 
+std::string helpWords(int) {
+  std::string words;
+  for (const auto& line : kLines) {
+    for (std::size_t i = 0; i < line.size(); ++i) {
+      const Run& run = line[i];
+      const bool close = i > 0 && gapBetween(line[i - 1], run) < kGap;
+      if (!words.empty() && !close) words += ' ';
+      words += run.picture != nullptr ? PictureId(*run.picture).words() : run.text;
+    }
+  }
+  return words;
+}
+
 /// How ramino is played, with the buttons that the text speaks of.
 void drawHelp(Painter& painter, int) {
   painter.fillRect({0, 0, kSize.width, kSize.height}, kGround);
@@ -113,6 +127,6 @@ void drawHelp(Painter& painter, int) {
 
 }  // namespace
 
-constinit const PictureStore Picram = singlePicture<kSize>("Picram", drawHelp);
+constinit const PictureStore Picram = singlePicture<kSize>("Picram", helpWords, drawHelp);
 
 }  // namespace tombolario::pictures

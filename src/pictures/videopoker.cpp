@@ -30,6 +30,16 @@ void drawPayRow(Painter& painter, int row) {
   painter.text(box, std::to_string(kPayTable[row].amount), font, kWhite, Align::Right);
 }
 
+std::string rowWords(int row) {
+  return std::string(kPayTable[row].name) + ' ' + std::to_string(kPayTable[row].amount);
+}
+
+std::string payTableWords(int) {
+  std::string words = rowWords(0);
+  for (int row = 1; row < kPayRows; ++row) words += ", " + rowWords(row);
+  return words;
+}
+
 void drawPayTable(Painter& painter, int) {
   painter.fillRect({0, 0, kPayTableSize.width, kPayTableSize.height}, kRed);
   for (int row = 0; row < kPayRows; ++row) {
@@ -56,8 +66,9 @@ void drawStripes(Painter& painter, int) {
 
 }  // namespace
 
-constinit const PictureStore Pictcomvidpok = singlePicture<kPayTableSize>("Pictcomvidpok", drawPayTable);
-constinit const PictureStore segn{"segn", 0, kPayRows, true, litRowSize, drawLitRow};
+constinit const PictureStore Pictcomvidpok =
+    singlePicture<kPayTableSize>("Pictcomvidpok", payTableWords, drawPayTable);
+constinit const PictureStore segn{"segn", 0, kPayRows, true, rowWords, litRowSize, drawLitRow};
 // These four are wider than the buttons that show them, 169 pixels, and lie beside each other.
 constexpr int kButtonRoom = 155;
 constexpr int kButtonCapHeight = 8;
@@ -71,6 +82,6 @@ constinit const PictureStore SALVPOK1 =
     plateStore<"SALVA", Size{205, 18}, kYellow, kRed, kButtonCapHeight, kButtonRoom>("SALVPOK1");
 constinit const PictureStore SALVPOK2 =
     plateStore<"NON SALVABILE", Size{205, 18}, kYellow, kRed, kButtonCapHeight, kButtonRoom>("SALVPOK2");
-constinit const PictureStore striscie = singlePicture<Size{432, 196}>("striscie", drawStripes);
+constinit const PictureStore striscie = singlePicture<Size{432, 196}>("striscie", ornament, drawStripes);
 
 }  // namespace tombolario::pictures

@@ -47,7 +47,7 @@ struct Combinations : Frame {
 };
 
 struct Options : Frame {
-  explicit Options(Form& form) : Frame(form, "Frame2", {0, 0, 12000, 8775}, screenLook(kCyan)) {}
+  explicit Options(Form& form) : Frame(form, "Frame2", {0, 0, 12000, 8775}, screenLook(kCyan, "Poker, le opzioni")) {}
 
   Label LPOKER{*this, "LPOKER", {0, 0, 12015, 375}, "POKER", stripLook(kYellow, kBlue)};
   CountingOptions Framepun{*this};
@@ -87,12 +87,14 @@ struct ScoreBoard : PictureBox {
   Label result{*this, "result", {0, 0, 1510, 310}, "",
                {.back = kYellow, .fore = kRed, .font = {.bold = true}, .border = Border::Single,
                 .visible = false}};
-  Label comp1{*this, "comp1", {1680, 410, 615, 255}, "", {.back = kWhite, .font = {.bold = true}}};
-  Label hum1{*this, "hum1", {1680, 840, 615, 255}, "", {.back = kWhite, .font = {.bold = true}}};
+  Label comp1{*this, "comp1", {1680, 410, 615, 255}, "",
+              {.back = kWhite, .font = {.bold = true}, .about = "COMPUTER"}};
+  Label hum1{*this, "hum1", {1680, 840, 615, 255}, "",
+             {.back = kWhite, .font = {.bold = true}, .about = "HUMAN"}};
 };
 
 struct Screen : Frame {
-  explicit Screen(Form& form) : Frame(form, "Frame2BIS", {0, 0, 12120, 8655}, screenLook(kWhite)) {}
+  explicit Screen(Form& form) : Frame(form, "Frame2BIS", {0, 0, 12120, 8655}, screenLook(kWhite, "Poker, il tavolo")) {}
 
   ControlArray<PlayerCard, 0, kHandSize - 1> playerCards{[this](int i) { return PlayerCard{*this, i}; }};
   ControlArray<ComputerCard, 0, kHandSize - 1> computerCards{
@@ -101,8 +103,8 @@ struct Screen : Frame {
   ControlArray<PictureBox, kHandSize, kComputerSlot - 1> replacements{[this](int slot) {
     return PictureBox{*this, {"Pictt", slot}, unseen(slot), cardLook(false)}; }};
   PictureBox nextCard{*this, {"Pictt", kNextCardSlot}, unseen(kNextCardSlot), cardLook(false)};
-  Label comres{*this, "comres", {1560, 2160, 9015, 495}, "", resultLook()};
-  Label humres{*this, "humres", {1560, 4680, 9015, 495}, "", resultLook()};
+  Label comres{*this, "comres", {1560, 2160, 9015, 495}, "", saying("COMPUTER", resultLook())};
+  Label humres{*this, "humres", {1560, 4680, 9015, 495}, "", saying("HUMAN", resultLook())};
   ScoreBoard Picture5{*this};
   Button Command11{*this, "Command11", {240, 5640, 1095, 615}, "NUOVA MANO", buttonLook(0xFF8000)};
   Button Command33{*this, "Command33", {240, 6240, 1095, 615}, "CAMBIA CARTE", buttonLook(0xFFFF80)};

@@ -41,7 +41,7 @@ struct Levels : Frame {
 };
 
 struct Entrance : Frame {
-  explicit Entrance(Form& form) : Frame(form, "frame6", kFullSize, screenLook(kRed)) {}
+  explicit Entrance(Form& form) : Frame(form, "frame6", kFullSize, screenLook(kRed, "Ramino, le opzioni")) {}
 
   Label ramETIC{*this, "ramETIC", kTitleBar, "RAMINO", stripLook(kYellow, kBlue)};
   PictureBox Picram{*this, "Picram", {2490, 1020, 7020, 2130},
@@ -56,7 +56,8 @@ struct DrawnCard : Frame {
   explicit DrawnCard(Control& parent)
       : Frame(parent, {"Ramfr", kInPlay}, {240, 240, 1095, 1560}, takenLook()) {}
 
-  PictureBox ramin{*this, {"ramin", kInPlay}, {240, 360, 630, 915}, cardLook(true, kWhite)};
+  PictureBox ramin{*this, {"ramin", kInPlay}, {240, 360, 630, 915},
+                   saying("carta presa", cardLook(true, kWhite))};
 };
 
 struct Piles : Frame {
@@ -65,7 +66,8 @@ struct Piles : Frame {
 
   PictureBox PicRAM3{*this, "PicRAM3", {480, 600, 600, 885}, {.back = kYellow, .picture = pictures::PicRAM3}};
   Frame Frame19b{*this, "Frame19b", {1320, 240, 1095, 1560}, takenLook()};
-  PictureBox cartatr{*this, "cartatr", {1560, 600, 630, 915}, cardLook(true, kWhite)};
+  PictureBox cartatr{*this, "cartatr", {1560, 600, 630, 915},
+                     saying("carta del tavolo", cardLook(true, kWhite))};
   Button mazzoram{*this, "mazzoram", {120, 1800, 1215, 375}, "MAZZO", buttonLook(kYellow)};
   Button tavoloram{*this, "tavoloram", {1320, 1800, 1215, 375}, "TAVOLO", buttonLook(0x80FF80)};
   DrawnCard Ramfr{*this};
@@ -88,8 +90,9 @@ struct Discards : Frame {
 
   Label Lscarram{*this, "Lscarram", {180, 420, 990, 255}, "Scarti", {.back = 0xC0FFFF, .font = kButtonFont}};
   ControlArray<PictureBox, 0, kListPlaces - 1> visualram{[this](int i) {
-    return PictureBox{*this, {"visualram", i}, {360, 1080, 630, 915}, cardLook(false, kWhite)}; }};
-  ScrollBar VScrollram1{*this, "VScrollram1", {1200, 360, 375, 2295}, ScrollBar::Direction::Vertical};
+    return PictureBox{*this, {"visualram", i}, {360, 1080, 630, 915},
+                      saying("scarti", cardLook(false, kWhite))}; }};
+  ScrollBar VScrollram1{*this, "VScrollram1", {1200, 360, 375, 2295}, ScrollBar::Direction::Vertical, "scarti"};
 };
 
 /// The computer's hand, which the player sees when it has won.
@@ -117,15 +120,17 @@ struct Score : PictureBox {
   PictureBox rampar{*this, "rampar", kNames, {.back = kBlack, .picture = pictures::rampar, .visible = false}};
   PictureBox ramvin{*this, "ramvin", kNames, {.back = kBlack, .picture = pictures::ramvin, .visible = false}};
   PictureBox ramper{*this, "ramper", kNames, {.back = kBlack, .picture = pictures::ramper, .visible = false}};
-  Label PRAMC{*this, "PRAMC", {1680, 400, 615, 255}, "", {.back = kTotal, .font = {.bold = true}}};
-  Label PRAMH{*this, "PRAMH", {1680, 840, 615, 255}, "", {.back = kTotal, .font = {.bold = true}}};
+  Label PRAMC{*this, "PRAMC", {1680, 400, 615, 255}, "",
+              {.back = kTotal, .font = {.bold = true}, .about = "COMPUTER"}};
+  Label PRAMH{*this, "PRAMH", {1680, 840, 615, 255}, "",
+              {.back = kTotal, .font = {.bold = true}, .about = "HUMAN"}};
 
   static constexpr Colour kTotal = 0x0080FF;
   static constexpr Box kNames{0, 0, 1515, 1215};
 };
 
 struct Play : Frame {
-  explicit Play(Form& form) : Frame(form, "Frame6bis", kFullSize, screenLook(SystemColour::Window)) {}
+  explicit Play(Form& form) : Frame(form, "Frame6bis", kFullSize, screenLook(SystemColour::Window, "Ramino, il tavolo")) {}
 
   Piles Rancarte{*this};
   ControlArray<PlayerCard, 0, kPlayerCards - 1> Ramfr{[this](int k) { return PlayerCard{*this, k}; }};

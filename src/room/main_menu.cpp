@@ -32,7 +32,7 @@ void restAwayFrom(Row& row, Point point, Colour atRest) {
 }  // namespace
 
 MainMenu::MainMenu(Form& form, Host& host, int games)
-    : Frame(form, "Frameprincipale", kFullSize, {.back = 0xFFC0C0}), host_(host) {
+    : Frame(form, "Frameprincipale", kFullSize, {.back = 0xFFC0C0, .about = "Menù"}), host_(host) {
   for (int n = 1; n <= games; ++n) {
     commpr.emplace_back(*this, Name{"commpr", n}, Box{4080, 1440 + 600 * (n - 1), 3735, 615}, "",
                         buttonLook(kGameAtRest, {pictures::commpr, n}));

@@ -39,6 +39,8 @@ Control::Control(Control& parent, Name name, Box box, std::string caption, const
       form_(made(parent, name).form_),
       parent_(&parent),
       name_(name),
+      about_(look.about),
+      backAtRest_(look.back),
       font_(look.font),
       align_(look.align),
       border_(look.border) {
@@ -64,7 +66,8 @@ Control::Control(Form& self, Name name, Box box, Colour back)
       Height(*this, box.height),
       form_(self),
       parent_(nullptr),
-      name_(name) {}
+      name_(name),
+      backAtRest_(back) {}
 
 bool Control::onView() const { return Visible && (parent_ == nullptr || parent_->onView()); }
 

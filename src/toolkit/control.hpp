@@ -38,6 +38,9 @@ struct Name {
 /// The edge of a control. Single takes one pixel off the inside of a picture box, the others none.
 enum class Border { None, Single, Sunken, Etched };
 
+/// What a control is to a player who hears the room.
+enum class Role : std::uint8_t { Ground, Group, Text, Picture, Button, Tile, Option, Bar };
+
 /// How a control looks when it is made.
 struct Look {
   Colour back = SystemColour::ButtonFace;
@@ -47,7 +50,13 @@ struct Look {
   Border border = Border::None;
   PictureId picture = {};
   bool visible = true;
+  const char* about =
+      "";  ///< in Italian, what eyes tell by the place: whose number it is, which end of a line
 };
+constexpr Look saying(const char* words, Look look) {
+  look.about = words;
+  return look;
+}
 
 /// Anything with a place in the window. Its properties are plain data with the names that the games use;
 /// the kinds differ in how they are drawn and in what the mouse does to them. A control is made once, as
@@ -60,6 +69,10 @@ class Control {
   virtual ~Control() = default;
 
   const Name& name() const { return name_; }
+  virtual Role role() const = 0;
+  const char* about() const { return about_; }
+  /// The back colour that it was made with; another one marks it.
+  Colour backAtRest() const { return backAtRest_; }
   /// Null for the window itself.
   Control* parent() const { return parent_; }
   /// What lies in it, the last one on top.
@@ -139,6 +152,8 @@ class Control {
   Control* parent_;
   std::vector<Control*> children_;
   Name name_;
+  const char* about_ = "";
+  Colour backAtRest_;
   Font font_;
   Align align_ = Align::Left;
   Border border_ = Border::None;

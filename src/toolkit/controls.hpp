@@ -14,6 +14,8 @@ class Frame : public Control {
   Frame(Control& parent, Name name, Box box, const Look& look, std::string caption = "")
       : Control(parent, name, box, std::move(caption), look) {}
 
+  Role role() const override { return Role::Ground; }
+
  private:
   bool edged() const override { return border() != Border::None; }
   void draw(Painter& painter, const Rect& bounds) const override;
@@ -25,6 +27,8 @@ class Label : public Control {
   Label(Control& parent, Name name, Box box, std::string caption, const Look& look)
       : Control(parent, name, box, std::move(caption), look) {}
 
+  Role role() const override { return Role::Text; }
+
  private:
   bool edged() const override { return border() != Border::None; }
   void draw(Painter& painter, const Rect& bounds) const override;
@@ -34,6 +38,8 @@ class Label : public Control {
 class PictureBox : public Control {
  public:
   PictureBox(Control& parent, Name name, Box box, const Look& look) : Control(parent, name, box, "", look) {}
+
+  Role role() const override { return Role::Picture; }
 
  private:
   void draw(Painter& painter, const Rect& bounds) const override;
@@ -45,6 +51,8 @@ class Image : public Control {
  public:
   Image(Control& parent, Name name, Box box, PictureId picture, bool visible = true)
       : Control(parent, name, box, "", {.picture = picture, .visible = visible}) {}
+
+  Role role() const override { return Role::Picture; }
 
  private:
   void draw(Painter& painter, const Rect& bounds) const override;
@@ -63,6 +71,8 @@ class Button : public Control {
   }
   bool sinks() const override { return true; }
 
+  Role role() const override { return Role::Button; }
+
  private:
   void draw(Painter& painter, const Rect& bounds) const override;
   Font captionFont(Painter& painter, const Rect& face) const;
@@ -72,6 +82,8 @@ class Button : public Control {
 class TileButton : public Button {
  public:
   using Button::Button;
+
+  Role role() const override { return Role::Tile; }
 
  private:
   void draw(Painter& painter, const Rect& bounds) const override;
@@ -87,6 +99,8 @@ class OptionButton : public Control {
   }
 
   void click() override { Value = 1; }
+
+  Role role() const override { return Role::Option; }
 
  private:
   void changed() override;
@@ -104,6 +118,8 @@ class Shape : public Control {
     BorderColor = look.fore;
   }
 
+  Role role() const override { return Role::Ground; }
+
  private:
   bool takesMouse() const override { return false; }
   void draw(Painter& painter, const Rect& bounds) const override;
@@ -118,6 +134,8 @@ class Line : public Control {
     BorderColor = colour;
   }
 
+  Role role() const override { return Role::Ground; }
+
  private:
   bool takesMouse() const override { return false; }
   void draw(Painter& painter, const Rect& bounds) const override;
@@ -128,6 +146,8 @@ class TextBox : public Control {
  public:
   TextBox(Control& parent, Name name, Box box, std::string text, const Look& look)
       : Control(parent, name, box, std::move(text), look) {}
+
+  Role role() const override { return Role::Text; }
 
  private:
   void draw(Painter& painter, const Rect& bounds) const override;

@@ -20,6 +20,8 @@ class Form : public Control {
  public:
   Form(Name name, Box box, Colour back, std::string caption);
 
+  Role role() const override { return Role::Ground; }
+
   /// Points are in twips of the window and may lie outside it.
   void mouseMove(Point point);
   /// A press of a button that is already down tells that its release went elsewhere, to another program: it

@@ -31,8 +31,10 @@ constexpr Look cardLook(bool visible, Colour back = kBlack) {
   return {.back = back, .border = Border::Single, .visible = visible};
 }
 
-/// The look of a screen, which is out of sight at the start.
-constexpr Look screenLook(Colour back) { return {.back = back, .visible = false}; }
+/// The look of a screen, which is out of sight at the start, and what it is called where it is not seen.
+constexpr Look screenLook(Colour back, const char* about) {
+  return {.back = back, .visible = false, .about = about};
+}
 
 /// Shows one full-size screen in the place of another.
 inline void changeScreen(Control& from, Control& to) {

@@ -13,8 +13,9 @@ class ScrollBar : public Control {
  public:
   enum class Direction { Horizontal, Vertical };
 
-  ScrollBar(Control& parent, Name name, Box box, Direction direction)
-      : Control(parent, name, box, "", {.back = SystemColour::ButtonFace}), direction_(direction) {}
+  ScrollBar(Control& parent, Name name, Box box, Direction direction, const char* about)
+      : Control(parent, name, box, "", {.back = SystemColour::ButtonFace, .about = about}),
+        direction_(direction) {}
 
   std::function<void()> onChange;
 
@@ -22,6 +23,7 @@ class ScrollBar : public Control {
   void leftDown(Point point) override;
   void leftDrag(Point point) override;
   bool sinks() const override { return true; }
+  Role role() const override { return Role::Bar; }
 
  private:
   enum class Part { None, LowArrow, HighArrow, Thumb };

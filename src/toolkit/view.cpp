@@ -9,17 +9,35 @@ namespace tombolario {
 namespace {
 
 constexpr double kSmallestScale = 0.05;
+constexpr double kLargest = 4;  // times the scale that fits
 
 }  // namespace
 
 void View::fit(int width, int height) {
   const double roomWidth = form_.Width / double{kTwipsPerPixel};
   const double roomHeight = form_.Height / double{kTwipsPerPixel};
-  scale_ = std::max(kSmallestScale, std::min(width / roomWidth, height / roomHeight));
-  marginX_ = static_cast<int>((width - roomWidth * scale_) / 2);
-  marginY_ = static_cast<int>((height - roomHeight * scale_) / 2);
-  hasMargins_ = std::lround(roomWidth * scale_) < width || std::lround(roomHeight * scale_) < height;
+  scale_ = fitting_ = std::max(kSmallestScale, std::min(width / roomWidth, height / roomHeight));
   size_ = {width, height};
+  place(0, 0);
+}
+
+void View::enlarge(double times, Vec from, Vec to) {
+  const double scale = std::clamp(scale_ * times, fitting_, fitting_ * kLargest);
+  const double grown = scale / scale_;
+  scale_ = scale;
+  place(to.x - (from.x - marginX_) * grown, to.y - (from.y - marginY_) * grown);
+}
+
+/// The room is in the middle where it is smaller than the window, and leaves no margin where it is larger.
+void View::place(double left, double top) {
+  const auto margin = [](double wanted, int window, double room) {
+    return static_cast<int>(room <= window ? (window - room) / 2 : std::clamp(wanted, window - room, 0.0));
+  };
+  const double width = form_.Width / double{kTwipsPerPixel} * scale_;
+  const double height = form_.Height / double{kTwipsPerPixel} * scale_;
+  marginX_ = margin(left, size_.width, width);
+  marginY_ = margin(top, size_.height, height);
+  hasMargins_ = std::lround(width) < size_.width || std::lround(height) < size_.height;
   cursor_.reset();
   form_.redraw();
 }

@@ -13,8 +13,12 @@ class View {
  public:
   explicit View(Form& form) : form_(form) {}
 
-  /// The window has that size now, and shows neither the room nor its cursor yet.
+  /// The window has that size now, and shows neither the room nor its cursor yet; nothing is enlarged.
   void fit(int width, int height);
+  /// Makes the room that many times as large, and brings what is at one place to another: as near as it goes
+  /// between the fitting size and four times as large, with no more margin than the window must have.
+  void enlarge(double times, Vec from, Vec to);
+  bool enlarged() const { return scale_ > fitting_; }
   /// Device pixels to a pixel of the room.
   double scale() const { return scale_; }
   int marginX() const { return marginX_; }  ///< left of the room
@@ -32,10 +36,13 @@ class View {
   void forget();
 
  private:
+  void place(double left, double top);
+
   Form& form_;
   PictureCache pictures_;
   std::optional<PictureId> cursor_;
   Size size_;
+  double fitting_ = 1;  // the scale at which all of the room is in sight
   double scale_ = 1;
   int marginX_ = 0;
   int marginY_ = 0;

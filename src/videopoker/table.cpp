@@ -43,7 +43,7 @@ struct Summary : Frame {
 };
 
 struct MenuScreen : Frame {
-  explicit MenuScreen(Form& form) : Frame(form, "Frame3", kFullSize, screenLook(SystemColour::ToolTip)) {}
+  explicit MenuScreen(Form& form) : Frame(form, "Frame3", kFullSize, screenLook(SystemColour::ToolTip, "Videopoker")) {}
 
   Label LVIDPOK{*this, "LVIDPOK", {-120, 0, 12120, 375}, "VIDEOPOKER", stripLook(kYellow, kBlue)};
   Button Command8{*this, "Command8", {3840, 960, 4260, 495}, "NUOVA PARTITA", buttonLook(0xFFFF00)};
@@ -80,7 +80,7 @@ struct PayTable : PictureBox {
 };
 
 struct TableScreen : Frame {
-  explicit TableScreen(Form& form) : Frame(form, "Frame3BIS", kFullSize, screenLook(SystemColour::Window)) {}
+  explicit TableScreen(Form& form) : Frame(form, "Frame3BIS", kFullSize, screenLook(SystemColour::Window, "Videopoker, il tavolo")) {}
 
   ControlArray<CardFrame, 0, kHandSize - 1> Frame1{[this](int i) { return CardFrame{*this, i}; }};
   ControlArray<PictureBox, kHandSize, kSlots - 1> replacements{[this](int slot) {

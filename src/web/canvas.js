@@ -152,6 +152,14 @@ mergeInto(LibraryManager.library, {
     contextOf(0).canvas.style.cursor = 'default';
   },
 
+  // Who makes the module says what is to be done with what is to be heard.
+  reading_tell: function (lines) {
+    Module['reading'].tell(UTF8ToString(lines));
+  },
+  reading_place: function (x, y, scale) {
+    Module['reading'].place(x, y, scale);
+  },
+
   // A file is kept as base64; what is not cannot be read. Storage that is refused or full throws.
   $storageKey: function (name) {
     return 'tombolario/' + UTF8ToString(name);

@@ -1,6 +1,6 @@
 // Keeps what the network last gave of the page, and gives that where there is no network.
 const kept = 'tombolario';
-const files = ['./', 'page.js', 'tombolario.js', 'tombolario.wasm', 'manifest.json', 'icon.svg'];
+const files = ['./', 'page.js', 'reading.js', 'touch.js', 'tombolario.js', 'tombolario.wasm', 'manifest.json', 'icon.svg'];
 
 self.addEventListener('install', (event) => {
   event.waitUntil(caches.open(kept).then((cache) => cache.addAll(files)));

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <string>
+
 #include "toolkit/form.hpp"
 #include "toolkit/view.hpp"
 
@@ -13,9 +15,16 @@ class Page {
 
   /// The canvas is empty and has that size now, and that many device pixels to a unit of the style sheets.
   void fit(int width, int height, double density);
+  /// What was at one place of the canvas comes to another, that many times as large.
+  void enlarge(double times, Vec from, Vec to);
+  bool enlarged() const { return view_.enlarged(); }
   /// The pointer is there, with the buttons down that have their bits set: 1 left, 2 right, 4 middle, 8 back,
   /// 16 forward.
   void pointer(double x, double y, unsigned buttons);
+  /// The same at a place in pixels of the room.
+  void pointerInRoom(double x, double y, unsigned buttons) {
+    pointer(view_.marginX() + x * view_.scale(), view_.marginY() + y * view_.scale(), buttons);
+  }
   /// What is held down is released elsewhere.
   void lose();
   bool needsDrawing() const { return form_.needsDrawing(); }
@@ -24,12 +33,15 @@ class Page {
   void forget() { view_.forget(); }
 
  private:
+  void placed();
   void showCursor();
+  void tell();
 
   Form& form_;
   View view_;
   double density_ = 1;
   unsigned buttons_ = 0;
+  std::string told_;
 };
 
 }  // namespace tombolario

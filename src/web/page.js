@@ -1,9 +1,11 @@
 // Opens the room on the page's canvas and brings the pointer to it.
+import {openReading} from './reading.js';
 import openModule from './tombolario.js';
+import {openTouch} from './touch.js';
 
 const canvas = document.querySelector('canvas');
 
-function play(room) {
+function play(room, reading) {
   const page = room._page_open();
 
   let frame = 0;
@@ -16,6 +18,7 @@ function play(room) {
   }
 
   function fit(width, height) {
+    document.body.classList.remove('enlarged');
     canvas.width = width;
     canvas.height = height;
     room._page_fit(page, width, height, width / canvas.clientWidth);
@@ -35,19 +38,55 @@ function play(room) {
     if (!event.isPrimary || (holder !== null && event.pointerId !== holder)) return;
     if (holder !== null && (event.type === 'pointerdown' || (event.type === 'pointermove' && !event.buttons))) end();
     holder = event.buttons ? event.pointerId : null;
-    if (event.type === 'pointerdown') canvas.setPointerCapture(event.pointerId);
+    if (event.type === 'pointerdown' && event.pointerType !== 'touch') canvas.setPointerCapture(event.pointerId);
     const density = canvas.width / canvas.clientWidth;
     room._page_pointer(page, event.clientX * density, event.clientY * density, event.buttons & 31);
     drawSoon();
   }
 
+  // Lengths are units of the style sheets.
+  function enlarge(times, from, to) {
+    const density = canvas.width / canvas.clientWidth;
+    room._page_enlarge(page, times, from.x * density, from.y * density, to.x * density, to.y * density);
+    document.body.classList.toggle('enlarged', room._page_enlarged(page));
+    drawSoon();
+  }
+
+  const touch = openTouch({
+    press: point,
+    takeBack() {
+      if (holder === null) return;
+      end();
+      drawSoon();
+    },
+    enlarge,
+    enlarged: () => room._page_enlarged(page),
+  });
+
   function cancel(event) {
+    touch(event);
     if (event.pointerId !== holder) return;
     end();
     drawSoon();
   }
 
-  for (const type of ['pointermove', 'pointerdown', 'pointerup']) canvas.addEventListener(type, point);
+  reading.open({
+    point(x, y, buttons) {
+      room._page_pointer_in_room(page, x, y, buttons);
+      drawSoon();
+    },
+    lose() {
+      end();
+      drawSoon();
+    },
+    showAll() {
+      if (room._page_enlarged(page)) enlarge(0, {x: 0, y: 0}, {x: 0, y: 0});
+    },
+  });
+
+  for (const type of ['pointermove', 'pointerdown', 'pointerup']) {
+    canvas.addEventListener(type, (event) => (event.pointerType === 'touch' ? touch : point)(event));
+  }
   canvas.addEventListener('pointercancel', cancel);
   // What a browser does by itself: a menu, scrolling, a page back or forward.
   for (const type of ['contextmenu', 'mousedown', 'mouseup', 'auxclick']) {
@@ -60,15 +99,21 @@ function play(room) {
 
   // The first call comes before the first frame. Not every browser tells the size in device pixels.
   const exact = 'devicePixelContentBoxSize' in ResizeObserverEntry.prototype;
+  // One that shows another density than it has tells that size of its own.
+  const device = (told, length) => {
+    const expected = length * devicePixelRatio;
+    return Math.round(Math.abs(told - expected) <= 1 ? told : expected);
+  };
   new ResizeObserver(([entry]) => {
-    const {inlineSize, blockSize} = exact ? entry.devicePixelContentBoxSize[0] : entry.contentBoxSize[0];
-    const density = exact ? 1 : devicePixelRatio;
-    fit(Math.round(inlineSize * density), Math.round(blockSize * density));
+    const {inlineSize, blockSize} = entry.contentBoxSize[0];
+    const told = exact ? entry.devicePixelContentBoxSize[0] : {};
+    fit(device(told.inlineSize, inlineSize), device(told.blockSize, blockSize));
   }).observe(canvas, {box: exact ? 'device-pixel-content-box' : 'content-box'});
 }
 
 try {
-  play(await openModule({canvas}));
+  const reading = openReading(document.querySelector('main'), document.querySelector('[role=status]'));
+  play(await openModule({canvas, reading}), reading);
   navigator.serviceWorker?.register('offline.js').catch(() => {});
 } catch (error) {
   document.body.textContent = `Tombolario: la pagina non si apre: ${error.message}`;

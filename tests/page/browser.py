@@ -53,10 +53,10 @@ class Browser(webdriver.Chrome):
         self.at = (0, 0)
         self.resize(792, 573)
 
-    def resize(self, width, height):
-        """To that size in CSS pixels."""
+    def resize(self, width, height, density=0):
+        """To that size in CSS pixels, and with that many device pixels to one of them instead of its own."""
         self.execute_cdp_cmd('Emulation.setDeviceMetricsOverride', {
-            'width': width, 'height': height, 'deviceScaleFactor': 0, 'mobile': False})
+            'width': width, 'height': height, 'deviceScaleFactor': density, 'mobile': False})
 
     def open(self, site):
         self.get(site.address)
@@ -107,6 +107,46 @@ class Browser(webdriver.Chrome):
         touch = functools.partial(self.execute_cdp_cmd, 'Input.dispatchTouchEvent')
         touch({'type': 'touchStart', 'touchPoints': [{'x': x, 'y': y}]})
         touch({'type': end, 'touchPoints': []})
+
+    def pinch(self, x, y, reach):
+        """Two fingers, one after the other, go apart so far from that place."""
+        def touch(kind, *fingers):
+            points = [{'x': x + way, 'y': y + way, 'id': finger} for finger, way in enumerate(fingers)]
+            self.execute_cdp_cmd('Input.dispatchTouchEvent', {'type': kind, 'touchPoints': points})
+        touch('touchStart', -10)
+        time.sleep(0.1)
+        touch('touchStart', -10, 10)
+        for way in range(10, reach + 1, 5):
+            touch('touchMove', -way, way)
+        touch('touchEnd', -reach)
+        touch('touchEnd')
+
+    def key(self, key):
+        code = {'Tab': 9, 'Enter': 13, ' ': 32, 'ArrowUp': 38, 'ArrowDown': 40}[key]
+        for kind in 'rawKeyDown', 'keyUp':
+            self.execute_cdp_cmd('Input.dispatchKeyEvent', {
+                'type': kind, 'key': key, 'windowsVirtualKeyCode': code})
+
+    def walk_to(self, name):
+        """By the tabulator to what is called so, or begins so."""
+        for _ in range(120):
+            heard = self.execute_script('return document.activeElement.getAttribute("aria-label")')
+            if (heard or '').startswith(name):
+                return heard
+            self.key('Tab')
+        raise AssertionError(f'no way leads to {name}')
+
+    def tree(self):
+        """What a screen reader is given: role, name and value of all that is in the accessibility tree."""
+        nodes = self.execute_cdp_cmd('Accessibility.getFullAXTree', {})['nodes']
+        return [tuple(node.get(part, {}).get('value') for part in ('role', 'name', 'value'))
+                for node in nodes if not node['ignored']]
+
+    def draw(self):
+        self.execute_script('room.draw()')
+
+    def news(self):
+        return self.execute_script('return document.querySelector("[role=status]").textContent')
 
     def pixel(self, x, y):
         """The colour of a pixel of the canvas, as RRGGBB, once what has changed is drawn."""

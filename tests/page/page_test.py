@@ -7,11 +7,14 @@ those of the driver hold, control by control."""
 
 import base64
 import hashlib
+import itertools
 import pathlib
 import random
+import re
 import subprocess
 import sys
 import tempfile
+import time
 import unittest
 
 from browser import BITS, PATIENCE, Browser, Site
@@ -20,6 +23,8 @@ PAGE, SCRIPTED, DRIVER = (pathlib.Path(argument).resolve() for argument in sys.a
 BUTTONS = ['left', 'right', 'middle']  # that the driver knows
 SCREENS = {'Frameprincipale', 'Frame2', 'Frame2BIS', 'Frame3', 'Frame3BIS', 'FRAME5', 'Frame5BIS', 'Frame4',
            'Frame4BIS', 'frame6', 'Frame6bis', 'Frame7'}
+# Roles that a player hears the name of.
+SAID = {'button', 'radio', 'radiogroup', 'scrollbar', 'image', 'StaticText', 'main'}
 # Of each game, in the order of the menu: the button that starts it. Then what leads back to the menu.
 ENTRIES = ('Command44', 'Command8', 'giocodom', 'INICAT', 'GIOCORAM', 'Commah(1)')
 EXITS = ('Command55', 'menupok', 'Command5', 'MENUVP', 'FINEDOM', 'MENUDOM', 'FINECA', 'menucat', 'ramesc',
@@ -264,12 +269,69 @@ class ScriptedPage(PageCase):
             self.assertEqual(self.browser.execute_script("return localStorage['tombolario/videopoker.dat']"),
                              'not base64!')
 
-    def test_the_other_games_by_the_mouse(self):
-        self.click('commpr(5)', 'GIOCORAM', 'mazzoram', 'ramlas', 'ramturncom', 'ramesc', 'MENURAM')
-        self.click('commpr(6)', 'Commah(1)', 'Commah(6)', 'ELPEDMAH', 'Command17')
-        self.click('commpr(3)', 'giocodom', 'LEF(1)', 'Commdomban', 'FINEDOM', 'MENUDOM')
-        self.click('commpr(1)', 'Command44', 'Command33')
-        self.assertEqual(self.both('screen'), 'Frame2BIS')
+    def press(self, key='Enter', **names):
+        """Walks to each name and presses a key there, and clicks its control in the driver."""
+        for control, name in names.items():
+            control = re.sub(r'_(\d+)$', r'(\1)', control)
+            self.browser.walk_to(name)
+            self.browser.key(key)
+            self.assertEqual(self.native.answer('click ' + control), 'ok')
+            self.browser.draw()
+            self.compare(control)
+            tree = self.browser.tree()
+            self.assertEqual([node for node in tree if node[0] in SAID and not node[1]], [], control)
+            self.assertTrue([node for node in tree if node[0] == 'button'])
+
+    def test_every_game_by_the_keyboard_and_the_accessibility_tree(self):
+        self.both('seed 3')
+        self.press(commpr_1='POKER')
+        self.browser.walk_to('Per configurazione')
+        self.browser.key('ArrowDown')
+        self.native.answer('click Op1')
+        self.compare('the arrow chooses the other option')
+        self.press(Command44='GIOCO', Command22_0='Segna')
+        self.assertIn('segnata', self.browser.news())
+        self.assertTrue(self.browser.walk_to('Segna').endswith('segnata'), 'the focus stays')
+        self.press(Command33='CAMBIA CARTE')
+        self.assertRegex(self.browser.news(), 'fondo verde.*COMPUTER: coppia 2')
+        self.press(Command55='EXIT', menupok="MENU'")
+        self.press(commpr_2='VIDEOPOKER', Command8='NUOVA PARTITA', Command2_0='Segna', Command3='CAMBIA CARTE',
+                   Command1='NUOVA MANO', Command5='TERMINA', MENUVP="MENU'", key=' ')
+        self.press(commpr_3='DOMINO', giocodom='GIOCO')
+        for slot, (array, end) in itertools.product(range(1, 15), (('LEF', 'sx'), ('RIGHT', 'dx'))):
+            self.browser.key('Tab')
+            self.press(**{f'{array}_{slot}': end})
+            if 'PEDINE, HUMAN: 13' in self.browser.news():
+                break
+        self.press(Commdomban='SCELTA COMPUTER')
+        self.assertIn('capo', self.browser.news())
+        self.press(FINEDOM='FINE', MENUDOM="MENU'", commpr_4='DOMINO/POKER', INICAT='NUOVA PARTITA',
+                   Comscam_1='SCAMBIO', Comsost_1='SOSTITUZIONE', nmcat='NUOVA MANO', FINECA='FINE')
+        self.press(menucat="MENU'", commpr_5='RAMINO', GIOCORAM='GIOCO')
+        self.assertIn(('scrollbar', 'scarti', 0), self.browser.tree(), 'with nothing to scroll, too')
+        self.press(mazzoram='MAZZO', ramCom_0='scambia con la carta presa', ramturncom='TURNO DEL COMPUTER')
+        self.browser.walk_to('scarti')
+        self.browser.key('ArrowUp')
+        self.native.answer('scroll VScrollram1 0')
+        self.compare('the arrow moves the bar')
+        self.press(ramesc='ESCI', MENURAM="MENU'", commpr_6='MAHJONGG')
+        self.take_a_pair()
+        self.press(Command17='EXIT')
+
+    def take_a_pair(self):
+        """Two tiles of a kind at the ends of their rows, above or below."""
+        free = {}
+        for _, name, _ in self.browser.tree():
+            heard = re.fullmatch(r'(.+), fila (\d+), posto (\d+), fondo (bianco|grigio)', name or '')
+            if not heard:
+                continue
+            kind, row, place, layer = heard[1], int(heard[2]), int(heard[3]), heard[4]
+            if place in ((1, 8) if layer == 'grigio' else (3, 6)):
+                cell = 8 * row - 8 + place if layer == 'grigio' else 78 + 4 * row - 4 + place
+                free.setdefault(kind, []).append((f'Commah_{cell}', name))
+        kind, pair = next((kind, tiles[:2]) for kind, tiles in free.items() if len(tiles) > 1)
+        self.press(**dict(pair), ELPEDMAH='ELIMINA PEDINE')
+        self.assertIn(f'{kind}: 2', self.browser.news())
 
     def test_any_mixture_of_moves_and_buttons(self):
         self.click('CLINK(1)')
@@ -317,6 +379,36 @@ class ScriptedPage(PageCase):
         self.assertEqual(self.browser.answer('screen'), 'Frame3', 'a press that is taken away clicks nothing')
         self.browser.tap(*self.browser.where('MENUVP'))
         self.assertEqual(self.browser.answer('screen'), 'Frameprincipale')
+
+    def test_two_fingers_enlarge_and_press_nothing(self):
+        hint = 'return getComputedStyle(document.querySelector("#turn")).display'
+        where = 'return document.querySelector("main").style.transform.match(/[-.\\d]+/g).map(Number)'
+        for width, height, told in (390, 844, 'block'), (844, 390, 'none'):
+            self.browser.resize(width, height, density=3)
+            self.browser.wait(f'return document.querySelector("canvas").width == {3 * width}')
+            self.assertEqual(self.browser.execute_script(hint), told)
+            x, y = self.browser.where('commpr(2)')
+            fitting = left, top, scale = self.browser.execute_script(where)
+            for reach in 40, 150:
+                self.browser.pinch(x, y, reach)
+            left, top, enlarged = self.browser.execute_script(where)
+            self.assertAlmostEqual(enlarged, 4 * scale, places=3)
+            self.assertTrue(-792 * enlarged + width <= left <= 0 and -573 * enlarged + height <= top <= 0)
+            self.assertEqual(self.browser.execute_script(hint), 'none')
+            time.sleep(0.4)
+            self.assertEqual(self.browser.answer('screen'), 'Frameprincipale')
+            x, y = left + 396 * enlarged, top + 156 * enlarged
+            self.assertEqual(self.browser.pixel(round(3 * x), round(3 * (y + 14 * enlarged))), '00ffff')
+            self.browser.tap(x, y)
+            self.assertEqual(self.browser.answer('screen'), 'Frame3')
+            self.browser.tap(x, y)
+            self.assertEqual(self.browser.execute_script(where), fitting)
+            self.browser.pinch(x, y, 150)
+            self.browser.walk_to('NUOVA PARTITA')
+            self.browser.walk_to("MENU'")
+            self.assertEqual(self.browser.execute_script(where), fitting, 'the focus is in sight')
+            self.assertEqual(self.browser.answer('click MENUVP'), 'ok')
+            self.browser.draw()
 
     def test_a_long_random_session_of_all_games(self):
         lines, digests, screens = play_at_random(self.native)
