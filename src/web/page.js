@@ -69,6 +69,8 @@ function play(room) {
 
 try {
   play(await openModule({canvas}));
+  document.querySelector('#opening').remove();
+  performance.mark('room');
   navigator.serviceWorker?.register('offline.js').catch(() => {});
 } catch (error) {
   document.body.textContent = `Tombolario: la pagina non si apre: ${error.message}`;
