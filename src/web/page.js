@@ -68,7 +68,10 @@ function play(room) {
 }
 
 try {
-  play(await openModule({canvas}));
+  // Text is measured and drawn once: by its own faces, or by the system's where they do not come.
+  const faces = [...document.fonts].map((face) => face.load().catch(() => {}));
+  const [room] = await Promise.all([openModule({canvas}), ...faces]);
+  play(room);
   document.querySelector('#opening').remove();
   performance.mark('room');
   navigator.serviceWorker?.register('offline.js').catch(() => {});

@@ -134,6 +134,8 @@ class ShippedPage(PageCase):
         self.assertIn(self.site.address, requests)
         self.assertEqual([address for address in requests if not address.startswith(self.site.address)], [])
         self.assertEqual(self.browser.execute_script('return typeof room'), 'undefined')
+        self.assertEqual(self.browser.execute_script('return [...document.fonts].map(({status}) => status)'),
+                         ['loaded'] * 3)
 
     def test_only_a_change_draws(self):
         self.browser.execute_script('''
