@@ -24,6 +24,12 @@ class Handler(http.server.SimpleHTTPRequestHandler):
     def log_message(self, *_):
         pass
 
+    def handle(self):
+        try:
+            super().handle()
+        except ConnectionError:
+            pass  # The browser has gone.
+
     def send_head(self):
         root = pathlib.Path(self.directory)
         file = pathlib.Path(self.translate_path(self.path))
