@@ -6,7 +6,7 @@ program=script/${0##*/}
 build_packages=(g++ cmake ninja-build pkg-config libsdl2-dev libcairo2-dev libfontconfig-dev)
 font_packages=(fonts-liberation fonts-roboto-unhinted)
 virtual_display_packages=(xvfb xdotool imagemagick)
-page_packages=(emscripten node-acorn cmake ninja-build python3)
+page_packages=(emscripten node-acorn cmake ninja-build python3 python3-fonttools python3-brotli)
 browser_packages=(chromium chromium-driver python3-selenium)
 
 say() { printf '%s: %s\n' "$program" "$*"; }

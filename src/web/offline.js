@@ -1,31 +1,41 @@
-// Keeps what the network last gave of the page, and gives that where there is no network.
-const kept = 'tombolario';
-const files = ['./', 'page.js', 'reading.js', 'touch.js', 'tombolario.js', 'tombolario.wasm', 'manifest.json', 'icon.svg'];
+// Keeps the page, a version whole or not at all, and opens it from there whatever the network does.
+const files = @FILES@; // of this version, with their digests
+const kept = 'tombolario @KEPT@';
 
-self.addEventListener('install', (event) => {
-  event.waitUntil(caches.open(kept).then((cache) => cache.addAll(files)));
-});
-
-async function keep(request, response) {
+// What the page has just asked for is not asked for again, unless it was of another version.
+async function get(file) {
+  const integrity = files[file];
   try {
-    await (await caches.open(kept)).put(request, response);
+    return await fetch(file, {integrity, cache: 'force-cache'});
   } catch {
-    // Storage is refused or full: the page goes on from the network.
+    return fetch(file, {integrity, cache: 'reload'});
   }
 }
 
-async function lastKept(request, error) {
-  const response = await caches.match(request, {ignoreSearch: true});
-  if (!response) throw error;
-  return response;
+async function keep() {
+  const names = Object.keys(files);
+  const responses = await Promise.all(names.map(get));
+  const cache = await caches.open(kept);
+  await Promise.all(names.map((name, i) => cache.put(name, responses[i])));
+  await self.skipWaiting();
 }
 
+// A page that is just opening may still want the version before.
+async function forget() {
+  const versions = await caches.keys();
+  await Promise.all(versions.slice(0, -2).map((version) => caches.delete(version)));
+}
+
+async function find(request) {
+  const file = new URL(request.url).pathname.slice(new URL(registration.scope).pathname.length);
+  const name = file === '' || file === 'index.html' ? './' : file;
+  return (await (await caches.open(kept)).match(name)) ?? caches.match(request);
+}
+
+self.addEventListener('install', (event) => event.waitUntil(keep()));
+self.addEventListener('activate', (event) => event.waitUntil(forget()));
 self.addEventListener('fetch', (event) => {
   const {request} = event;
-  if (request.method !== 'GET') return;
-  const fromNetwork = fetch(request);
-  event.respondWith(fromNetwork.catch((error) => lastKept(request, error)));
-  event.waitUntil(fromNetwork.then(
-      (response) => response.ok && keep(request, response.clone()),
-      () => {}));
+  if (request.method !== 'GET' || !request.url.startsWith(registration.scope)) return;
+  event.respondWith(find(request).catch(() => {}).then((response) => response ?? fetch(request)));
 });

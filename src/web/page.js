@@ -112,8 +112,13 @@ function play(room, reading) {
 }
 
 try {
-  const reading = openReading(document.querySelector('main'), document.querySelector('[role=status]'));
-  play(await openModule({canvas, reading}), reading);
+  // Text is measured and drawn once: by its own faces, or by the system's where they do not come.
+  const faces = [...document.fonts].map((face) => face.load().catch(() => {}));
+  const reading = openReading(document.querySelector('main'), document.querySelector('#news'));
+  const [room] = await Promise.all([openModule({canvas, reading}), ...faces]);
+  play(room, reading);
+  document.querySelector('#opening').remove();
+  performance.mark('room');
   navigator.serviceWorker?.register('offline.js').catch(() => {});
 } catch (error) {
   document.body.textContent = `Tombolario: la pagina non si apre: ${error.message}`;

@@ -1,35 +1,46 @@
 """A page on a server of its own, and a headless browser that shows it."""
 
 import functools
-import http.server
 import json
+import pathlib
+import sys
 import threading
 import time
 
 from selenium import webdriver
 from selenium.webdriver.chrome.service import Service
 
+sys.path.insert(0, str(pathlib.Path(__file__).resolve().parents[2] / 'script'))
+import serve  # noqa: E402
+
 PATIENCE = 10  # seconds
 BITS = {'left': 1, 'right': 2, 'middle': 4, 'back': 8, 'forward': 16}
 
 
-class Handler(http.server.SimpleHTTPRequestHandler):
-    """Says nothing, and lets the browser keep nothing of its own accord."""
-
-    def log_message(self, *_):
-        pass
-
-    def end_headers(self):
-        self.send_header('Cache-Control', 'no-store')
-        super().end_headers()
-
-
 class Site:
-    """A page on a port of its own."""
+    """A page on a port of its own. What it is asked of, it tells; what it shall not give, it answers never or with
+    an error."""
 
     def __init__(self, directory):
-        handler = functools.partial(Handler, directory=directory)
-        self.server = http.server.ThreadingHTTPServer(('127.0.0.1', 0), handler)
+        self.directory = directory
+        self.asked = []
+        self.refused = None
+        self.answering = threading.Event()
+        self.answering.set()
+        site = self
+
+        class Handler(serve.Handler):
+            def do_GET(self):
+                site.asked.append(self.path)
+                site.answering.wait()
+                self.directory = str(site.directory)
+                if site.refused and self.path.endswith(site.refused):
+                    self.send_error(503)
+                else:
+                    super().do_GET()
+
+        self.server = serve.serve(directory, '127.0.0.1', 0, Handler)
+        self.server.daemon_threads = True
         self.address = f'http://127.0.0.1:{self.server.server_port}/'
         threading.Thread(target=self.server.serve_forever, daemon=True).start()
 
@@ -58,9 +69,9 @@ class Browser(webdriver.Chrome):
         self.execute_cdp_cmd('Emulation.setDeviceMetricsOverride', {
             'width': width, 'height': height, 'deviceScaleFactor': density, 'mobile': False})
 
-    def open(self, site):
-        self.get(site.address)
-        self.wait("return performance.getEntriesByName('first-contentful-paint').length")
+    def open(self, site, file=''):
+        self.get(site.address + file)
+        self.wait("return performance.getEntriesByName('room').length")
 
     def wait(self, script):
         end = time.monotonic() + PATIENCE
@@ -146,7 +157,7 @@ class Browser(webdriver.Chrome):
         self.execute_script('room.draw()')
 
     def news(self):
-        return self.execute_script('return document.querySelector("[role=status]").textContent')
+        return self.execute_script('return document.querySelector("#news").textContent')
 
     def pixel(self, x, y):
         """The colour of a pixel of the canvas, as RRGGBB, once what has changed is drawn."""
@@ -166,4 +177,6 @@ class Browser(webdriver.Chrome):
         return [address for address in addresses if not address.startswith('data:')]
 
     def complaints(self):
-        return [entry['message'] for entry in self.get_log('browser') if entry['level'] == 'SEVERE']
+        """All but advice how the test should read pixels."""
+        return [entry['message'] for entry in self.get_log('browser')
+                if entry['level'] in ('WARNING', 'SEVERE') and entry['source'] != 'rendering']

@@ -136,9 +136,11 @@ class ShippedPage(PageCase):
         self.browser.press(*self.NEW_GAME)
         self.assertEqual(self.browser.pixel(*self.CHANGE_CARDS), 'ffff80')
         requests = self.browser.requests()
-        self.assertIn(self.site.address + 'tombolario.wasm', requests)
+        self.assertIn(self.site.address, requests)
         self.assertEqual([address for address in requests if not address.startswith(self.site.address)], [])
         self.assertEqual(self.browser.execute_script('return typeof room'), 'undefined')
+        self.assertEqual(self.browser.execute_script('return [...document.fonts].map(({status}) => status)'),
+                         ['loaded'] * 3)
 
     def test_only_a_change_draws(self):
         self.browser.execute_script('''
@@ -192,12 +194,40 @@ class ShippedPage(PageCase):
         self.assertEqual(self.browser.pixel(*self.VIDEOPOKER), '00ffff')
         self.assertEqual(self.browser.execute_script('return document.querySelector("canvas").width'), 792)
 
-    def test_without_a_network_the_page_opens_again(self):
-        self.browser.wait("return caches.keys().then((keys) => keys.length > 0)")
-        self.browser.wait("return navigator.serviceWorker.ready.then(() => true)")
+    def keep(self, versions=1):
+        """Waits until the browser keeps so many versions of the page, and answers from the last."""
+        self.browser.wait("""return navigator.serviceWorker.ready.then(async ({installing, waiting, active}) =>
+            !installing && !waiting && active.state == 'activated' && (await caches.keys()).length == %d)""" % versions)
+
+    def test_a_first_visit_asks_for_each_file_once(self):
+        self.keep()
+        self.assertEqual(sorted(self.site.asked), sorted(set(self.site.asked)))
+
+    def test_whatever_the_network_does_the_page_opens_again(self):
+        self.keep()
+        self.site.answering.clear()
+        for file in '', 'index.html', '?source=app':
+            self.browser.open(self.site, file)
+            self.assertEqual(self.browser.pixel(*self.VIDEOPOKER), '00ffff')
         self.site.close()
         self.browser.open(self.site)
         self.assertEqual(self.browser.pixel(*self.VIDEOPOKER), '00ffff')
+
+    def opens_the_new(self):
+        self.browser.open(self.site)
+        return self.browser.execute_script('return typeof room') == 'object'
+
+    def test_a_new_version_is_fetched_behind_and_opens_next_whole_or_not_at_all(self):
+        self.keep()
+        self.site.directory, self.site.refused, self.site.asked = SCRIPTED, 'tombolario.wasm', []
+        self.assertFalse(self.opens_the_new())
+        while not any(path.endswith('tombolario.wasm') for path in self.site.asked):
+            self.browser.wait('return true')
+        self.assertFalse(self.opens_the_new(), 'its module is missing')
+        self.site.refused = None
+        self.assertFalse(self.opens_the_new())
+        self.keep(versions=2)
+        self.assertTrue(self.opens_the_new())
 
 
 class ScriptedPage(PageCase):
