@@ -1,6 +1,7 @@
 #pragma once
 
 #include <gtest/gtest.h>
+#include <unistd.h>
 
 #include <filesystem>
 #include <fstream>
@@ -32,7 +33,7 @@ class TemporaryDirectory {
   TemporaryDirectory() {
     const auto* test = testing::UnitTest::GetInstance()->current_test_info();
     path_ = std::filesystem::temp_directory_path() /
-            ("tombolario-" + std::string(test->test_suite_name()) + '-' + test->name());
+            ("tombolario-" + std::to_string(getpid()) + '-' + test->test_suite_name() + '-' + test->name());
     std::filesystem::remove_all(path_);
     std::filesystem::create_directories(path_);
   }

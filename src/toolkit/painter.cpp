@@ -146,8 +146,8 @@ void Painter::fillRect(const Rect& rect, Rgb colour) {
   const Stretch x = filled(allX, rect.x, rect.w);
   const Stretch y = filled(allY, rect.y, rect.h);
   // What covers all of a quiet drawing is its ground.
-  if (ground_ && rect.x <= 0 && rect.y <= 0 && rect.w >= allX.length && rect.h >= allY.length)
-    ground_ = colour;
+  const bool covers = rect.x <= 0 && rect.y <= 0 && rect.w >= allX.length && rect.h >= allY.length;
+  if (ground_ && places_.size() == 1 && covers) ground_ = colour;
   canvas_.fillRect({x.begin, y.begin, x.end - x.begin, y.end - y.begin},
                    ground_ == colour ? colour : ink(colour));
 }
