@@ -12,7 +12,7 @@ import re
 import shutil
 import sys
 
-OPEN = ('index.html', 'manifest.json', 'icon-48.png', 'icon-192.png', 'icon-512.png', 'icon-maskable.png',
+OPEN = ('index.html', 'guida.html', 'manifest.json', 'icon-48.png', 'icon-192.png', 'icon-512.png', 'icon-maskable.png',
         'apple-touch-icon.png', 'licences.txt', 'offline.js')
 POLICY = ("default-src 'none'; script-src 'self' 'wasm-unsafe-eval'; style-src {styles}; font-src 'self'; "
           "img-src 'self' data:; connect-src 'self'; manifest-src 'self'; worker-src 'self'; "

@@ -62,7 +62,7 @@ class Browser(webdriver.Chrome):
         super().__init__(options=options, service=Service('/usr/bin/chromedriver'))
         self.buttons = 0
         self.at = (0, 0)
-        self.resize(792, 573)
+        self.resize(880, 573)
 
     def resize(self, width, height, density=0):
         """To that size in CSS pixels, and with that many device pixels to one of them instead of its own."""
@@ -102,12 +102,16 @@ class Browser(webdriver.Chrome):
         self.buttons &= ~BITS[button]
         self._mouse('mouseReleased', button)
 
+    def room(self):
+        """Where the room lies, left and top in CSS pixels, and how large a pixel of it is."""
+        return self.execute_script(
+            'return document.querySelector("main").style.transform.match(/[-.\\d]+/g).map(Number)')
+
     def where(self, name):
         """The middle of a control in CSS pixels, at the present size of the window."""
         x, y = self.execute_script('return room.centre(arguments[0])', name)
-        width, height = self.execute_script('return [innerWidth, innerHeight]')
-        scale = min(width / 792, height / 573)
-        return (width - 792 * scale) / 2 + x / 15 * scale, (height - 573 * scale) / 2 + y / 15 * scale
+        left, top, scale = self.room()
+        return left + x / 15 * scale, top + y / 15 * scale
 
     def press(self, x, y, button='left'):
         self.move(x, y)

@@ -119,9 +119,9 @@ class PageCase(unittest.TestCase):
 class ShippedPage(PageCase):
     """The page as players get it: it can be seen and clicked, and nothing else."""
 
-    # Places clear of captions and pictures, in pixels of the room.
-    VIDEOPOKER, NEW_GAME, CHANGE_CARDS = (282, 156), (266, 80), (122, 412)
-    GROUND, EMAIL, SITE = (200, 367), (300, 456), (290, 480)
+    # Places clear of captions and pictures, in CSS pixels; the room lies 44 from the left.
+    VIDEOPOKER, NEW_GAME, CHANGE_CARDS = (326, 156), (310, 80), (166, 412)
+    GROUND, EMAIL, SITE = (244, 367), (344, 456), (334, 480)
 
     def setUp(self):
         super().setUp()
@@ -182,7 +182,7 @@ class ShippedPage(PageCase):
         self.browser.move(*self.GROUND)
         self.assertEqual(self.browser.execute_script(style), 'default')
         self.browser.move(*self.EMAIL)
-        self.browser.resize(792, 700)
+        self.browser.resize(880, 700)
         self.browser.wait('return document.querySelector("canvas").height == 700')
         self.browser.move(*self.GROUND)
         self.assertEqual(self.browser.execute_script(style), 'default')
@@ -192,7 +192,7 @@ class ShippedPage(PageCase):
             'source': 'delete ResizeObserverEntry.prototype.devicePixelContentBoxSize'})
         self.browser.open(self.site)
         self.assertEqual(self.browser.pixel(*self.VIDEOPOKER), '00ffff')
-        self.assertEqual(self.browser.execute_script('return document.querySelector("canvas").width'), 792)
+        self.assertEqual(self.browser.execute_script('return document.querySelector("canvas").width'), 880)
 
     def keep(self, versions=1):
         """Waits until the browser keeps so many versions of the page, and answers from the last."""
@@ -378,7 +378,7 @@ class ScriptedPage(PageCase):
             kind = 'up' if self.browser.buttons & BITS[button] else 'down'
             if step == 0 or chance.random() < 0.5:
                 x, y = (chance.randrange(792), chance.randrange(573))
-                self.browser.move(x, y)
+                self.browser.move(x + 44, y)
                 self.native.answer(f'at {15 * x} {15 * y}')
             else:
                 getattr(self.browser, kind)(button)
@@ -395,14 +395,16 @@ class ScriptedPage(PageCase):
 
     def show_menu(self, width, height, density):
         self.browser.resize(width, height)
-        width, height = width * density, height * density
-        self.browser.wait(f'return document.querySelector("canvas").width == {width}')
-        scale = min(width / 792, height / 573)
-        left, top = int((width - 792 * scale) / 2), int((height - 573 * scale) / 2)
+        self.browser.wait(f'return document.querySelector("canvas").width == {width * density}')
+        left, top, scale = self.browser.room()
+        link = self.browser.find_element('id', 'guide').rect
+        self.assertTrue(link['x'] >= left + 792 * scale - 1 or link['y'] >= top + 573 * scale - 1, 'beside the room')
+        self.assertTrue(left < 1 or height - 573 * scale < 1 or 0 < height - link['height'] - 573 * scale < 1, 'it fills')
+        left, top, scale = (round(part * density, 3) for part in (left, top, scale))
         self.assertEqual(self.browser.pixel(left + 396 * scale, top + 170 * scale), '00ffff')
         for x in left + 1, left + 792 * scale - 2:
             self.assertEqual(self.browser.pixel(x, top + 1), 'ff8000', 'the banner goes from edge to edge')
-        self.assertEqual(self.browser.pixel(0, 0), 'ffc0c0' if left or top else 'ff8000')
+        self.assertEqual(self.browser.pixel(0, height * density - 1), 'ffc0c0')
         self.browser.tap(*self.browser.where('commpr(2)'))
         self.assertEqual(self.browser.answer('screen'), 'Frame3')
         self.browser.tap(*self.browser.where('MENUVP'), end='touchCancel')
@@ -412,16 +414,15 @@ class ScriptedPage(PageCase):
 
     def test_two_fingers_enlarge_and_press_nothing(self):
         hint = 'return getComputedStyle(document.querySelector("#turn")).display'
-        where = 'return document.querySelector("main").style.transform.match(/[-.\\d]+/g).map(Number)'
         for width, height, told in (390, 844, 'block'), (844, 390, 'none'):
             self.browser.resize(width, height, density=3)
             self.browser.wait(f'return document.querySelector("canvas").width == {3 * width}')
             self.assertEqual(self.browser.execute_script(hint), told)
             x, y = self.browser.where('commpr(2)')
-            fitting = left, top, scale = self.browser.execute_script(where)
+            fitting = left, top, scale = self.browser.room()
             for reach in 40, 150:
                 self.browser.pinch(x, y, reach)
-            left, top, enlarged = self.browser.execute_script(where)
+            left, top, enlarged = self.browser.room()
             self.assertAlmostEqual(enlarged, 4 * scale, places=3)
             self.assertTrue(-792 * enlarged + width <= left <= 0 and -573 * enlarged + height <= top <= 0)
             self.assertEqual(self.browser.execute_script(hint), 'none')
@@ -432,11 +433,11 @@ class ScriptedPage(PageCase):
             self.browser.tap(x, y)
             self.assertEqual(self.browser.answer('screen'), 'Frame3')
             self.browser.tap(x, y)
-            self.assertEqual(self.browser.execute_script(where), fitting)
+            self.assertEqual(self.browser.room(), fitting)
             self.browser.pinch(x, y, 150)
             self.browser.walk_to('NUOVA PARTITA')
             self.browser.walk_to("MENU'")
-            self.assertEqual(self.browser.execute_script(where), fitting, 'the focus is in sight')
+            self.assertEqual(self.browser.room(), fitting, 'the focus is in sight')
             self.assertEqual(self.browser.answer('click MENUVP'), 'ok')
             self.browser.draw()
 
