@@ -18,21 +18,20 @@ BITS = {'left': 1, 'right': 2, 'middle': 4, 'back': 8, 'forward': 16}
 
 
 class Site:
-    """A page on a port of its own. What it is asked of, it tells; what it shall not give, it answers never or with
-    an error."""
+    """A page on a port of its own. What it is asked of, it tells; what ends in `refused` or `stalled`, it answers
+    with an error or not yet."""
 
     def __init__(self, directory):
         self.directory = directory
         self.asked = []
-        self.refused = None
-        self.answering = threading.Event()
-        self.answering.set()
+        self.refused = self.stalled = None
         site = self
 
         class Handler(serve.Handler):
             def do_GET(self):
                 site.asked.append(self.path)
-                site.answering.wait()
+                while site.stalled is not None and self.path.endswith(site.stalled):
+                    time.sleep(0.02)
                 self.directory = str(site.directory)
                 if site.refused and self.path.endswith(site.refused):
                     self.send_error(503)
@@ -53,6 +52,7 @@ class Browser(webdriver.Chrome):
     def __init__(self, density=1):
         """With that many device pixels to a CSS pixel."""
         options = webdriver.ChromeOptions()
+        options.page_load_strategy = 'none'  # a page that waits for a file is to be seen, too
         options.binary_location = '/usr/bin/chromium'
         for argument in ('headless=new', 'no-sandbox', 'disable-gpu', 'disable-dev-shm-usage', 'disable-quic',
                          'no-first-run', 'disable-background-networking', 'disable-component-update',
@@ -70,6 +70,7 @@ class Browser(webdriver.Chrome):
             'width': width, 'height': height, 'deviceScaleFactor': density, 'mobile': False})
 
     def open(self, site, file=''):
+        self.execute_script('performance.clearMarks()')
         self.get(site.address + file)
         self.wait("return performance.getEntriesByName('room').length")
 
@@ -129,7 +130,7 @@ class Browser(webdriver.Chrome):
             points = [{'x': x + way, 'y': y + way, 'id': finger} for finger, way in enumerate(fingers)]
             self.execute_cdp_cmd('Input.dispatchTouchEvent', {'type': kind, 'touchPoints': points})
         touch('touchStart', -10)
-        time.sleep(0.1)
+        time.sleep(0.35)
         touch('touchStart', -10, 10)
         for way in range(10, reach + 1, 5):
             touch('touchMove', -way, way)

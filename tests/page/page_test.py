@@ -17,6 +17,8 @@ import tempfile
 import time
 import unittest
 
+from fontTools.ttLib import TTFont
+
 from browser import BITS, PATIENCE, Browser, Site
 
 PAGE, SCRIPTED, DRIVER = (pathlib.Path(argument).resolve() for argument in sys.argv[1:4])
@@ -29,6 +31,17 @@ SAID = {'button', 'radio', 'radiogroup', 'scrollbar', 'image', 'StaticText', 'ma
 ENTRIES = ('Command44', 'Command8', 'giocodom', 'INICAT', 'GIOCORAM', 'Commah(1)')
 EXITS = ('Command55', 'menupok', 'Command5', 'MENUVP', 'FINEDOM', 'MENUDOM', 'FINECA', 'menucat', 'ramesc',
          'MENURAM', 'Command17')
+
+
+# Keeps what letters are drawn, by the weight of their face.
+SPY = '''
+    window.letters = {};
+    const {fillText} = CanvasRenderingContext2D.prototype;
+    CanvasRenderingContext2D.prototype.fillText = function (text, ...place) {
+      const weight = {bold: 'bold', 900: 'heavy'}[this.font.split(' ')[0]] ?? 'plain';
+      letters[weight] = (letters[weight] ?? '') + text;
+      fillText.call(this, text, ...place);
+    };'''
 
 
 class Native:
@@ -205,13 +218,26 @@ class ShippedPage(PageCase):
 
     def test_whatever_the_network_does_the_page_opens_again(self):
         self.keep()
-        self.site.answering.clear()
+        self.site.stalled = ''
         for file in '', 'index.html', '?source=app':
             self.browser.open(self.site, file)
             self.assertEqual(self.browser.pixel(*self.VIDEOPOKER), '00ffff')
+        self.browser.execute_script('location = document.querySelector("#guide").href')
+        self.browser.wait('return document.querySelector("a[href=\'#ramino\']")').click()
+        self.browser.wait('return scrollY > 0 && getComputedStyle(document.querySelector("h2")).color == "rgb(255, 255, 255)"')
         self.site.close()
         self.browser.open(self.site)
         self.assertEqual(self.browser.pixel(*self.VIDEOPOKER), '00ffff')
+
+    def test_a_face_that_is_late_is_drawn_when_it_comes(self):
+        site = Site(PAGE)
+        self.addCleanup(site.close)
+        site.stalled = 'heavy.woff2'
+        self.browser.open(site)
+        self.browser.execute_script(SPY)
+        self.assertEqual(self.browser.execute_script('return letters.heavy'), None)
+        site.stalled = None
+        self.assertIn('TOMBOLARIO', self.browser.wait('return letters.heavy'))
 
     def opens_the_new(self):
         self.browser.open(self.site)
@@ -444,18 +470,25 @@ class ScriptedPage(PageCase):
     def test_a_long_random_session_of_all_games(self):
         lines, digests, screens = play_at_random(self.native)
         self.assertEqual(screens, SCREENS)
+        self.browser.execute_script(SPY)
         page = self.browser.execute_async_script('''
             const [lines, done] = arguments;
             const digest = async (text) => {
               const bytes = await crypto.subtle.digest('SHA-256', new TextEncoder().encode(text));
               return Array.from(new Uint8Array(bytes), (byte) => byte.toString(16).padStart(2, '0')).join('');
             };
-            const digests = lines.map((line) => digest(room.answer(line) + room.answer('dump')));
+            const digests = lines.map((line, i) => {
+              if (i % 10 == 0) room.draw();
+              return digest(room.answer(line) + room.answer('dump'));
+            });
             Promise.all(digests).then(done, (error) => done(String(error)));''', lines)
         self.assertEqual(len(page), len(digests))
         differing = [line for line, ours, theirs in zip(lines, digests, page) if ours != theirs]
         self.assertEqual(differing[:1], [], 'the first command after which the page shows something else')
         self.compare_files()
+        for face, letters in self.browser.execute_script('return letters').items():
+            file, = PAGE.glob(f'*/{face}.woff2')
+            self.assertLessEqual(set(map(ord, letters)), set(TTFont(file).getBestCmap()), face)
 
 
 if __name__ == '__main__':
