@@ -48,7 +48,59 @@ class Site:
         self.server.server_close()
 
 
-class Browser(webdriver.Chrome):
+class Viewer:
+    """What any browser does with the page."""
+
+    def open(self, site, file=''):
+        self.execute_script('performance.clearMarks()')
+        self.get(site.address + file)
+        self.wait("return performance.getEntriesByName('room').length")
+
+    def wait(self, script):
+        end = time.monotonic() + PATIENCE
+        while not (value := self.execute_script(script)):
+            if time.monotonic() > end:
+                raise AssertionError(f'not so after {PATIENCE} seconds: {script}')
+            time.sleep(0.02)
+        return value
+
+    def keep(self, versions=1):
+        """Waits until the browser keeps so many versions of the page, and answers from the last."""
+        self.wait("""return navigator.serviceWorker.ready.then(async ({installing, waiting, active}) =>
+            !installing && !waiting && active.state == 'activated' && (await caches.keys()).length == %d)""" % versions)
+
+    def answer(self, line):
+        return self.execute_script('return room.answer(arguments[0])', line)
+
+    def room(self):
+        """Where the room lies, left and top in CSS pixels, and how large a pixel of it is."""
+        return self.execute_script('''
+            const {e, f, a} = new DOMMatrix(getComputedStyle(document.querySelector('main')).transform);
+            return [e, f, a];''')
+
+    def where(self, name):
+        """The middle of a control in CSS pixels, at the present size of the window."""
+        x, y = self.execute_script('return room.centre(arguments[0])', name)
+        left, top, scale = self.room()
+        return left + x / 15 * scale, top + y / 15 * scale
+
+    def walk_to(self, name):
+        """By the tabulator to what is called so, or begins so."""
+        for _ in range(120):
+            heard = self.execute_script('return document.activeElement.getAttribute("aria-label")')
+            if (heard or '').startswith(name):
+                return heard
+            self.key('Tab')
+        raise AssertionError(f'no way leads to {name}')
+
+    def draw(self):
+        self.execute_script('room.draw()')
+
+    def news(self):
+        return self.execute_script('return document.querySelector("#news").textContent')
+
+
+class Browser(Viewer, webdriver.Chrome):
     def __init__(self, density=1):
         """With that many device pixels to a CSS pixel."""
         options = webdriver.ChromeOptions()
@@ -69,22 +121,6 @@ class Browser(webdriver.Chrome):
         self.execute_cdp_cmd('Emulation.setDeviceMetricsOverride', {
             'width': width, 'height': height, 'deviceScaleFactor': density, 'mobile': False})
 
-    def open(self, site, file=''):
-        self.execute_script('performance.clearMarks()')
-        self.get(site.address + file)
-        self.wait("return performance.getEntriesByName('room').length")
-
-    def wait(self, script):
-        end = time.monotonic() + PATIENCE
-        while not (value := self.execute_script(script)):
-            if time.monotonic() > end:
-                raise AssertionError(f'not so after {PATIENCE} seconds: {script}')
-            time.sleep(0.02)
-        return value
-
-    def answer(self, line):
-        return self.execute_script('return room.answer(arguments[0])', line)
-
     def _mouse(self, kind, button='none'):
         x, y = self.at
         self.execute_cdp_cmd('Input.dispatchMouseEvent', {
@@ -102,17 +138,6 @@ class Browser(webdriver.Chrome):
     def up(self, button='left'):
         self.buttons &= ~BITS[button]
         self._mouse('mouseReleased', button)
-
-    def room(self):
-        """Where the room lies, left and top in CSS pixels, and how large a pixel of it is."""
-        return self.execute_script(
-            'return document.querySelector("main").style.transform.match(/[-.\\d]+/g).map(Number)')
-
-    def where(self, name):
-        """The middle of a control in CSS pixels, at the present size of the window."""
-        x, y = self.execute_script('return room.centre(arguments[0])', name)
-        left, top, scale = self.room()
-        return left + x / 15 * scale, top + y / 15 * scale
 
     def press(self, x, y, button='left'):
         self.move(x, y)
@@ -143,26 +168,11 @@ class Browser(webdriver.Chrome):
             self.execute_cdp_cmd('Input.dispatchKeyEvent', {
                 'type': kind, 'key': key, 'windowsVirtualKeyCode': code})
 
-    def walk_to(self, name):
-        """By the tabulator to what is called so, or begins so."""
-        for _ in range(120):
-            heard = self.execute_script('return document.activeElement.getAttribute("aria-label")')
-            if (heard or '').startswith(name):
-                return heard
-            self.key('Tab')
-        raise AssertionError(f'no way leads to {name}')
-
     def tree(self):
         """What a screen reader is given: role, name and value of all that is in the accessibility tree."""
         nodes = self.execute_cdp_cmd('Accessibility.getFullAXTree', {})['nodes']
         return [tuple(node.get(part, {}).get('value') for part in ('role', 'name', 'value'))
                 for node in nodes if not node['ignored']]
-
-    def draw(self):
-        self.execute_script('room.draw()')
-
-    def news(self):
-        return self.execute_script('return document.querySelector("#news").textContent')
 
     def pixel(self, x, y):
         """The colour of a pixel of the canvas, as RRGGBB, once what has changed is drawn."""

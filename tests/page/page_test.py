@@ -20,6 +20,7 @@ import unittest
 from fontTools.ttLib import TTFont
 
 from browser import BITS, PATIENCE, Browser, Site
+from firefox import Firefox
 
 PAGE, SCRIPTED, DRIVER = (pathlib.Path(argument).resolve() for argument in sys.argv[1:4])
 BUTTONS = ['left', 'right', 'middle']  # that the driver knows
@@ -207,17 +208,12 @@ class ShippedPage(PageCase):
         self.assertEqual(self.browser.pixel(*self.VIDEOPOKER), '00ffff')
         self.assertEqual(self.browser.execute_script('return document.querySelector("canvas").width'), 880)
 
-    def keep(self, versions=1):
-        """Waits until the browser keeps so many versions of the page, and answers from the last."""
-        self.browser.wait("""return navigator.serviceWorker.ready.then(async ({installing, waiting, active}) =>
-            !installing && !waiting && active.state == 'activated' && (await caches.keys()).length == %d)""" % versions)
-
     def test_a_first_visit_asks_for_each_file_once(self):
-        self.keep()
+        self.browser.keep()
         self.assertEqual(sorted(self.site.asked), sorted(set(self.site.asked)))
 
     def test_whatever_the_network_does_the_page_opens_again(self):
-        self.keep()
+        self.browser.keep()
         self.site.stalled = ''
         for file in '', 'index.html', '?source=app':
             self.browser.open(self.site, file)
@@ -244,7 +240,7 @@ class ShippedPage(PageCase):
         return self.browser.execute_script('return typeof room') == 'object'
 
     def test_a_new_version_is_fetched_behind_and_opens_next_whole_or_not_at_all(self):
-        self.keep()
+        self.browser.keep()
         self.site.directory, self.site.refused, self.site.asked = SCRIPTED, 'tombolario.wasm', []
         self.assertFalse(self.opens_the_new())
         while not any(path.endswith('tombolario.wasm') for path in self.site.asked):
@@ -252,18 +248,16 @@ class ShippedPage(PageCase):
         self.assertFalse(self.opens_the_new(), 'its module is missing')
         self.site.refused = None
         self.assertFalse(self.opens_the_new())
-        self.keep(versions=2)
+        self.browser.keep(versions=2)
         self.assertTrue(self.opens_the_new())
 
 
-class ScriptedPage(PageCase):
-    """The page beside the driver: whatever happens, both show the same."""
+class BesideTheDriver(unittest.TestCase):
+    """Whatever happens, `browser` shows what the driver `native` does."""
 
     def setUp(self):
-        super().setUp()
         self.native = Native()
         self.addCleanup(self.native.close)
-        self.serve(SCRIPTED)
 
     def both(self, line):
         answer = self.native.answer(line)
@@ -274,6 +268,54 @@ class ScriptedPage(PageCase):
         native, page = self.native.answer('dump').split('\n'), self.browser.answer('dump').split('\n')
         self.assertEqual([line for line in page if line not in native],
                          [line for line in native if line not in page], step)
+
+    def play_hands(self):
+        """At three sizes by mouse, finger and keyboard."""
+        self.both('seed 3')
+        steps = {'commpr(2)': 'VIDEOPOKER', 'Command8': 'NUOVA PARTITA', 'Command2(0)': 'Segna',
+                 'Command3': 'CAMBIA CARTE', 'Command1': 'NUOVA MANO', 'Command5': 'TERMINA', 'MENUVP': "MENU'"}
+        for width, height in (880, 573), (500, 900), (844, 390):
+            self.browser.resize(width, height)
+            self.browser.wait(f'return innerHeight == {height} && document.querySelector("canvas").height == {height}')
+            for device in 'mouse', 'finger', 'keyboard':
+                for control, name in steps.items():
+                    if device == 'keyboard':
+                        self.browser.draw()
+                        self.browser.walk_to(name)
+                        self.browser.key('Enter')
+                    else:
+                        act = self.browser.press if device == 'mouse' else self.browser.tap
+                        act(*self.browser.where(control))
+                    self.native.answer('click ' + control)
+                    self.compare(f'{control} by {device} at {width}x{height}')
+
+
+class InFirefox(BesideTheDriver):
+    def setUp(self):
+        super().setUp()
+        self.browser = Firefox()
+        self.addCleanup(self.browser.quit)
+        self.site = Site(SCRIPTED)
+        self.addCleanup(self.site.close)
+        self.browser.open(self.site)
+
+    def test_hands_at_any_size_by_any_device_and_again_without_a_network(self):
+        self.play_hands()
+        self.browser.keep()
+        self.site.close()
+        self.browser.open(self.site)
+        self.native.reopen()
+        self.play_hands()
+
+
+class ScriptedPage(BesideTheDriver, PageCase):
+    def setUp(self):
+        super().setUp()
+        self.start_browser()
+        self.serve(SCRIPTED)
+
+    def test_hands_at_any_size_by_any_device(self):
+        self.play_hands()
 
     def click(self, *names):
         """Clicks with the mouse in the page, and by command in the driver."""
