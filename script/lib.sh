@@ -7,7 +7,7 @@ build_packages=(g++ cmake ninja-build pkg-config libsdl2-dev libcairo2-dev libfo
 font_packages=(fonts-liberation fonts-roboto-unhinted)
 virtual_display_packages=(xvfb xdotool maim)
 page_packages=(emscripten node-acorn cmake ninja-build python3 python3-fonttools python3-brotli)
-browser_packages=(chromium chromium-driver python3-selenium)
+browser_packages=(chromium chromium-driver python3-selenium firefox-esr)
 
 say() { printf '%s: %s\n' "$program" "$*"; }
 

@@ -13,11 +13,12 @@ constexpr double kLargest = 4;  // times the scale that fits
 
 }  // namespace
 
-void View::fit(int width, int height) {
+void View::fit(int width, int height, int below) {
   const double roomWidth = form_.Width / double{kTwipsPerPixel};
   const double roomHeight = form_.Height / double{kTwipsPerPixel};
-  scale_ = fitting_ = std::max(kSmallestScale, std::min(width / roomWidth, height / roomHeight));
+  scale_ = fitting_ = std::max(kSmallestScale, std::min(width / roomWidth, (height - below) / roomHeight));
   size_ = {width, height};
+  below_ = below;
   place(0, 0);
 }
 
@@ -30,13 +31,14 @@ void View::enlarge(double times, Vec from, Vec to) {
 
 /// The room is in the middle where it is smaller than the window, and leaves no margin where it is larger.
 void View::place(double left, double top) {
-  const auto margin = [](double wanted, int window, double room) {
-    return static_cast<int>(room <= window ? (window - room) / 2 : std::clamp(wanted, window - room, 0.0));
+  const auto margin = [](double wanted, int window, int free, double room) {
+    return static_cast<int>(room <= free ? (free - room) / 2
+                                         : std::clamp(wanted, std::min(0.0, window - room), 0.0));
   };
   const double width = form_.Width / double{kTwipsPerPixel} * scale_;
   const double height = form_.Height / double{kTwipsPerPixel} * scale_;
-  marginX_ = margin(left, size_.width, width);
-  marginY_ = margin(top, size_.height, height);
+  marginX_ = margin(left, size_.width, size_.width, width);
+  marginY_ = margin(top, size_.height, size_.height - below_, height);
   hasMargins_ = std::lround(width) < size_.width || std::lround(height) < size_.height;
   cursor_.reset();
   form_.redraw();

@@ -13,8 +13,9 @@ class View {
  public:
   explicit View(Form& form) : form_(form) {}
 
-  /// The window has that size now, and shows neither the room nor its cursor yet; nothing is enlarged.
-  void fit(int width, int height);
+  /// The window has that size now, and shows neither the room nor its cursor yet; nothing is enlarged. Until
+  /// something is, the room leaves so much free at the bottom.
+  void fit(int width, int height, int below = 0);
   /// Makes the room that many times as large, and brings what is at one place to another: as near as it goes
   /// between the fitting size and four times as large, with no more margin than the window must have.
   void enlarge(double times, Vec from, Vec to);
@@ -42,6 +43,7 @@ class View {
   PictureCache pictures_;
   std::optional<PictureId> cursor_;
   Size size_;
+  int below_ = 0;
   double fitting_ = 1;  // the scale at which all of the room is in sight
   double scale_ = 1;
   int marginX_ = 0;

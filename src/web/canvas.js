@@ -12,7 +12,7 @@ mergeInto(LibraryManager.library, {
     return '#' + (0x1000000 + rgb).toString(16).slice(1);
   },
   $cssFont: function (families, weight, em) {
-    return weight + ' ' + em + 'px ' + UTF8ToString(families);
+    return weight + ' ' + em + 'px Tombolario,' + UTF8ToString(families);
   },
   $tracePolygon: function (context, points, count) {
     context.beginPath();
@@ -114,14 +114,16 @@ mergeInto(LibraryManager.library, {
     context.font = cssFont(families, weight, em);
     return context.measureText(UTF8ToString(text, length)).width;
   },
-  // In ems, measured large: what browsers tell of small letters is rounded.
+  // In ems, measured large: what browsers tell of small letters is rounded. While a face is on its way, another
+  // one is measured.
   $capHeights: {},
   canvas_cap_height__deps: ['$capHeights', '$contextOf', '$cssFont'],
   canvas_cap_height: function (canvas, families, weight) {
     const context = contextOf(canvas);
     context.font = cssFont(families, weight, 1000);
-    capHeights[context.font] ??= context.measureText('H').actualBoundingBoxAscent / 1000;
-    return capHeights[context.font];
+    const known = context.font + document.fonts.status;
+    capHeights[known] ??= context.measureText('H').actualBoundingBoxAscent / 1000;
+    return capHeights[known];
   },
   canvas_copy__deps: ['$contextOf'],
   canvas_copy: function (canvas, from, x, y) {

@@ -57,8 +57,8 @@ std::string lineOf(const Reading& reading) {
 
 }  // namespace
 
-void Page::fit(int width, int height, double density) {
-  view_.fit(width, height);
+void Page::fit(int width, int height, int below, double density) {
+  view_.fit(width, height, below);
   density_ = density;
   placed();
 }
@@ -125,8 +125,8 @@ void Page::showCursor() {
 
 // What the script of the page calls.
 extern "C" {
-EMSCRIPTEN_KEEPALIVE void page_fit(Page* page, int width, int height, double density) {
-  page->fit(width, height, density);
+EMSCRIPTEN_KEEPALIVE void page_fit(Page* page, int width, int height, int below, double density) {
+  page->fit(width, height, below, density);
 }
 EMSCRIPTEN_KEEPALIVE void page_enlarge(Page* page, double times, double fromX, double fromY, double toX,
                                        double toY) {

@@ -13,8 +13,9 @@ class Page {
  public:
   explicit Page(Form& form) : form_(form), view_(form) {}
 
-  /// The canvas is empty and has that size now, and that many device pixels to a unit of the style sheets.
-  void fit(int width, int height, double density);
+  /// The canvas is empty and has that size now, so much of it at the bottom is not for the room, and that
+  /// many device pixels are a unit of the style sheets.
+  void fit(int width, int height, int below, double density);
   /// What was at one place of the canvas comes to another, that many times as large.
   void enlarge(double times, Vec from, Vec to);
   bool enlarged() const { return view_.enlarged(); }

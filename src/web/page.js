@@ -3,6 +3,7 @@ import {openReading} from './reading.js';
 import openModule from './tombolario.js';
 import {openTouch} from './touch.js';
 
+const PATIENCE = 1000; // milliseconds
 const canvas = document.querySelector('canvas');
 
 function play(room, reading) {
@@ -21,7 +22,9 @@ function play(room, reading) {
     document.body.classList.remove('enlarged');
     canvas.width = width;
     canvas.height = height;
-    room._page_fit(page, width, height, width / canvas.clientWidth);
+    const density = width / canvas.clientWidth;
+    const below = parseFloat(getComputedStyle(document.body).paddingBottom);
+    room._page_fit(page, width, height, Math.round(below * density), density);
     room._page_draw(page);
   }
 
@@ -92,10 +95,11 @@ function play(room, reading) {
   for (const type of ['contextmenu', 'mousedown', 'mouseup', 'auxclick']) {
     canvas.addEventListener(type, (event) => event.preventDefault());
   }
-  canvas.addEventListener('contextrestored', () => {
+  function drawAgain() {
     room._page_forget(page);
     drawSoon();
-  });
+  }
+  canvas.addEventListener('contextrestored', drawAgain);
 
   // The first call comes before the first frame. Not every browser tells the size in device pixels.
   const exact = 'devicePixelContentBoxSize' in ResizeObserverEntry.prototype;
@@ -109,14 +113,17 @@ function play(room, reading) {
     const told = exact ? entry.devicePixelContentBoxSize[0] : {};
     fit(device(told.inlineSize, inlineSize), device(told.blockSize, blockSize));
   }).observe(canvas, {box: exact ? 'device-pixel-content-box' : 'content-box'});
+  return drawAgain;
 }
 
 try {
-  // Text is measured and drawn once: by its own faces, or by the system's where they do not come.
-  const faces = [...document.fonts].map((face) => face.load().catch(() => {}));
+  // The room opens with its own faces, unless they fail or keep it waiting: then with the system's, until they come.
+  const faces = Promise.all([...document.fonts].map((face) => face.load().catch(() => {})));
   const reading = openReading(document.querySelector('main'), document.querySelector('#news'));
-  const [room] = await Promise.all([openModule({canvas, reading}), ...faces]);
-  play(room, reading);
+  const room = await openModule({canvas, reading});
+  const waited = await Promise.race([faces, new Promise((tired) => setTimeout(tired, PATIENCE, 'in vain'))]);
+  const drawAgain = play(room, reading);
+  if (waited === 'in vain') faces.then(drawAgain);
   document.querySelector('#opening').remove();
   performance.mark('room');
   navigator.serviceWorker?.register('offline.js').catch(() => {});

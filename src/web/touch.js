@@ -1,7 +1,7 @@
 // Fingers on the room: one of them presses, two enlarge and move. A finger that comes down may be the first of
 // two, so it presses only when it is lifted, moved away or held.
 
-const HELD = 300; // milliseconds
+const HELD = 500; // milliseconds
 const MOVED = 12; // units of the style sheets
 const AGAIN = 300; // milliseconds between the taps of a double tap
 const NEAR = 24;

@@ -18,21 +18,20 @@ BITS = {'left': 1, 'right': 2, 'middle': 4, 'back': 8, 'forward': 16}
 
 
 class Site:
-    """A page on a port of its own. What it is asked of, it tells; what it shall not give, it answers never or with
-    an error."""
+    """A page on a port of its own. What it is asked of, it tells; what ends in `refused` or `stalled`, it answers
+    with an error or not yet."""
 
     def __init__(self, directory):
         self.directory = directory
         self.asked = []
-        self.refused = None
-        self.answering = threading.Event()
-        self.answering.set()
+        self.refused = self.stalled = None
         site = self
 
         class Handler(serve.Handler):
             def do_GET(self):
                 site.asked.append(self.path)
-                site.answering.wait()
+                while site.stalled is not None and self.path.endswith(site.stalled):
+                    time.sleep(0.02)
                 self.directory = str(site.directory)
                 if site.refused and self.path.endswith(site.refused):
                     self.send_error(503)
@@ -49,27 +48,11 @@ class Site:
         self.server.server_close()
 
 
-class Browser(webdriver.Chrome):
-    def __init__(self, density=1):
-        """With that many device pixels to a CSS pixel."""
-        options = webdriver.ChromeOptions()
-        options.binary_location = '/usr/bin/chromium'
-        for argument in ('headless=new', 'no-sandbox', 'disable-gpu', 'disable-dev-shm-usage', 'disable-quic',
-                         'no-first-run', 'disable-background-networking', 'disable-component-update',
-                         'disable-sync', f'force-device-scale-factor={density}'):
-            options.add_argument('--' + argument)
-        options.set_capability('goog:loggingPrefs', {'browser': 'ALL', 'performance': 'ALL'})
-        super().__init__(options=options, service=Service('/usr/bin/chromedriver'))
-        self.buttons = 0
-        self.at = (0, 0)
-        self.resize(792, 573)
-
-    def resize(self, width, height, density=0):
-        """To that size in CSS pixels, and with that many device pixels to one of them instead of its own."""
-        self.execute_cdp_cmd('Emulation.setDeviceMetricsOverride', {
-            'width': width, 'height': height, 'deviceScaleFactor': density, 'mobile': False})
+class Viewer:
+    """What any browser does with the page."""
 
     def open(self, site, file=''):
+        self.execute_script('performance.clearMarks()')
         self.get(site.address + file)
         self.wait("return performance.getEntriesByName('room').length")
 
@@ -81,8 +64,62 @@ class Browser(webdriver.Chrome):
             time.sleep(0.02)
         return value
 
+    def keep(self, versions=1):
+        """Waits until the browser keeps so many versions of the page, and answers from the last."""
+        self.wait("""return navigator.serviceWorker.ready.then(async ({installing, waiting, active}) =>
+            !installing && !waiting && active.state == 'activated' && (await caches.keys()).length == %d)""" % versions)
+
     def answer(self, line):
         return self.execute_script('return room.answer(arguments[0])', line)
+
+    def room(self):
+        """Where the room lies, left and top in CSS pixels, and how large a pixel of it is."""
+        return self.execute_script('''
+            const {e, f, a} = new DOMMatrix(getComputedStyle(document.querySelector('main')).transform);
+            return [e, f, a];''')
+
+    def where(self, name):
+        """The middle of a control in CSS pixels, at the present size of the window."""
+        x, y = self.execute_script('return room.centre(arguments[0])', name)
+        left, top, scale = self.room()
+        return left + x / 15 * scale, top + y / 15 * scale
+
+    def walk_to(self, name):
+        """By the tabulator to what is called so, or begins so."""
+        for _ in range(120):
+            heard = self.execute_script('return document.activeElement.getAttribute("aria-label")')
+            if (heard or '').startswith(name):
+                return heard
+            self.key('Tab')
+        raise AssertionError(f'no way leads to {name}')
+
+    def draw(self):
+        self.execute_script('room.draw()')
+
+    def news(self):
+        return self.execute_script('return document.querySelector("#news").textContent')
+
+
+class Browser(Viewer, webdriver.Chrome):
+    def __init__(self, density=1):
+        """With that many device pixels to a CSS pixel."""
+        options = webdriver.ChromeOptions()
+        options.page_load_strategy = 'none'  # a page that waits for a file is to be seen, too
+        options.binary_location = '/usr/bin/chromium'
+        for argument in ('headless=new', 'no-sandbox', 'disable-gpu', 'disable-dev-shm-usage', 'disable-quic',
+                         'no-first-run', 'disable-background-networking', 'disable-component-update',
+                         'disable-sync', f'force-device-scale-factor={density}'):
+            options.add_argument('--' + argument)
+        options.set_capability('goog:loggingPrefs', {'browser': 'ALL', 'performance': 'ALL'})
+        super().__init__(options=options, service=Service('/usr/bin/chromedriver'))
+        self.buttons = 0
+        self.at = (0, 0)
+        self.resize(880, 573)
+
+    def resize(self, width, height, density=0):
+        """To that size in CSS pixels, and with that many device pixels to one of them instead of its own."""
+        self.execute_cdp_cmd('Emulation.setDeviceMetricsOverride', {
+            'width': width, 'height': height, 'deviceScaleFactor': density, 'mobile': False})
 
     def _mouse(self, kind, button='none'):
         x, y = self.at
@@ -102,13 +139,6 @@ class Browser(webdriver.Chrome):
         self.buttons &= ~BITS[button]
         self._mouse('mouseReleased', button)
 
-    def where(self, name):
-        """The middle of a control in CSS pixels, at the present size of the window."""
-        x, y = self.execute_script('return room.centre(arguments[0])', name)
-        width, height = self.execute_script('return [innerWidth, innerHeight]')
-        scale = min(width / 792, height / 573)
-        return (width - 792 * scale) / 2 + x / 15 * scale, (height - 573 * scale) / 2 + y / 15 * scale
-
     def press(self, x, y, button='left'):
         self.move(x, y)
         self.down(button)
@@ -125,7 +155,7 @@ class Browser(webdriver.Chrome):
             points = [{'x': x + way, 'y': y + way, 'id': finger} for finger, way in enumerate(fingers)]
             self.execute_cdp_cmd('Input.dispatchTouchEvent', {'type': kind, 'touchPoints': points})
         touch('touchStart', -10)
-        time.sleep(0.1)
+        time.sleep(0.35)
         touch('touchStart', -10, 10)
         for way in range(10, reach + 1, 5):
             touch('touchMove', -way, way)
@@ -138,26 +168,11 @@ class Browser(webdriver.Chrome):
             self.execute_cdp_cmd('Input.dispatchKeyEvent', {
                 'type': kind, 'key': key, 'windowsVirtualKeyCode': code})
 
-    def walk_to(self, name):
-        """By the tabulator to what is called so, or begins so."""
-        for _ in range(120):
-            heard = self.execute_script('return document.activeElement.getAttribute("aria-label")')
-            if (heard or '').startswith(name):
-                return heard
-            self.key('Tab')
-        raise AssertionError(f'no way leads to {name}')
-
     def tree(self):
         """What a screen reader is given: role, name and value of all that is in the accessibility tree."""
         nodes = self.execute_cdp_cmd('Accessibility.getFullAXTree', {})['nodes']
         return [tuple(node.get(part, {}).get('value') for part in ('role', 'name', 'value'))
                 for node in nodes if not node['ignored']]
-
-    def draw(self):
-        self.execute_script('room.draw()')
-
-    def news(self):
-        return self.execute_script('return document.querySelector("#news").textContent')
 
     def pixel(self, x, y):
         """The colour of a pixel of the canvas, as RRGGBB, once what has changed is drawn."""

@@ -17,7 +17,10 @@ import tempfile
 import time
 import unittest
 
+from fontTools.ttLib import TTFont
+
 from browser import BITS, PATIENCE, Browser, Site
+from firefox import Firefox
 
 PAGE, SCRIPTED, DRIVER = (pathlib.Path(argument).resolve() for argument in sys.argv[1:4])
 BUTTONS = ['left', 'right', 'middle']  # that the driver knows
@@ -29,6 +32,17 @@ SAID = {'button', 'radio', 'radiogroup', 'scrollbar', 'image', 'StaticText', 'ma
 ENTRIES = ('Command44', 'Command8', 'giocodom', 'INICAT', 'GIOCORAM', 'Commah(1)')
 EXITS = ('Command55', 'menupok', 'Command5', 'MENUVP', 'FINEDOM', 'MENUDOM', 'FINECA', 'menucat', 'ramesc',
          'MENURAM', 'Command17')
+
+
+# Keeps what letters are drawn, by the weight of their face.
+SPY = '''
+    window.letters = {};
+    const {fillText} = CanvasRenderingContext2D.prototype;
+    CanvasRenderingContext2D.prototype.fillText = function (text, ...place) {
+      const weight = {bold: 'bold', 900: 'heavy'}[this.font.split(' ')[0]] ?? 'plain';
+      letters[weight] = (letters[weight] ?? '') + text;
+      fillText.call(this, text, ...place);
+    };'''
 
 
 class Native:
@@ -119,9 +133,9 @@ class PageCase(unittest.TestCase):
 class ShippedPage(PageCase):
     """The page as players get it: it can be seen and clicked, and nothing else."""
 
-    # Places clear of captions and pictures, in pixels of the room.
-    VIDEOPOKER, NEW_GAME, CHANGE_CARDS = (282, 156), (266, 80), (122, 412)
-    GROUND, EMAIL, SITE = (200, 367), (300, 456), (290, 480)
+    # Places clear of captions and pictures, in CSS pixels; the room lies 44 from the left.
+    VIDEOPOKER, NEW_GAME, CHANGE_CARDS = (326, 156), (310, 80), (166, 412)
+    GROUND, EMAIL, SITE = (244, 367), (344, 456), (334, 480)
 
     def setUp(self):
         super().setUp()
@@ -182,7 +196,7 @@ class ShippedPage(PageCase):
         self.browser.move(*self.GROUND)
         self.assertEqual(self.browser.execute_script(style), 'default')
         self.browser.move(*self.EMAIL)
-        self.browser.resize(792, 700)
+        self.browser.resize(880, 700)
         self.browser.wait('return document.querySelector("canvas").height == 700')
         self.browser.move(*self.GROUND)
         self.assertEqual(self.browser.execute_script(style), 'default')
@@ -192,33 +206,41 @@ class ShippedPage(PageCase):
             'source': 'delete ResizeObserverEntry.prototype.devicePixelContentBoxSize'})
         self.browser.open(self.site)
         self.assertEqual(self.browser.pixel(*self.VIDEOPOKER), '00ffff')
-        self.assertEqual(self.browser.execute_script('return document.querySelector("canvas").width'), 792)
-
-    def keep(self, versions=1):
-        """Waits until the browser keeps so many versions of the page, and answers from the last."""
-        self.browser.wait("""return navigator.serviceWorker.ready.then(async ({installing, waiting, active}) =>
-            !installing && !waiting && active.state == 'activated' && (await caches.keys()).length == %d)""" % versions)
+        self.assertEqual(self.browser.execute_script('return document.querySelector("canvas").width'), 880)
 
     def test_a_first_visit_asks_for_each_file_once(self):
-        self.keep()
+        self.browser.keep()
         self.assertEqual(sorted(self.site.asked), sorted(set(self.site.asked)))
 
     def test_whatever_the_network_does_the_page_opens_again(self):
-        self.keep()
-        self.site.answering.clear()
+        self.browser.keep()
+        self.site.stalled = ''
         for file in '', 'index.html', '?source=app':
             self.browser.open(self.site, file)
             self.assertEqual(self.browser.pixel(*self.VIDEOPOKER), '00ffff')
+        self.browser.execute_script('location = document.querySelector("#guide").href')
+        self.browser.wait('return document.querySelector("a[href=\'#ramino\']")').click()
+        self.browser.wait('return scrollY > 0 && getComputedStyle(document.querySelector("h2")).color == "rgb(255, 255, 255)"')
         self.site.close()
         self.browser.open(self.site)
         self.assertEqual(self.browser.pixel(*self.VIDEOPOKER), '00ffff')
+
+    def test_a_face_that_is_late_is_drawn_when_it_comes(self):
+        site = Site(PAGE)
+        self.addCleanup(site.close)
+        site.stalled = 'heavy.woff2'
+        self.browser.open(site)
+        self.browser.execute_script(SPY)
+        self.assertEqual(self.browser.execute_script('return letters.heavy'), None)
+        site.stalled = None
+        self.assertIn('TOMBOLARIO', self.browser.wait('return letters.heavy'))
 
     def opens_the_new(self):
         self.browser.open(self.site)
         return self.browser.execute_script('return typeof room') == 'object'
 
     def test_a_new_version_is_fetched_behind_and_opens_next_whole_or_not_at_all(self):
-        self.keep()
+        self.browser.keep()
         self.site.directory, self.site.refused, self.site.asked = SCRIPTED, 'tombolario.wasm', []
         self.assertFalse(self.opens_the_new())
         while not any(path.endswith('tombolario.wasm') for path in self.site.asked):
@@ -226,18 +248,16 @@ class ShippedPage(PageCase):
         self.assertFalse(self.opens_the_new(), 'its module is missing')
         self.site.refused = None
         self.assertFalse(self.opens_the_new())
-        self.keep(versions=2)
+        self.browser.keep(versions=2)
         self.assertTrue(self.opens_the_new())
 
 
-class ScriptedPage(PageCase):
-    """The page beside the driver: whatever happens, both show the same."""
+class BesideTheDriver(unittest.TestCase):
+    """Whatever happens, `browser` shows what the driver `native` does."""
 
     def setUp(self):
-        super().setUp()
         self.native = Native()
         self.addCleanup(self.native.close)
-        self.serve(SCRIPTED)
 
     def both(self, line):
         answer = self.native.answer(line)
@@ -248,6 +268,54 @@ class ScriptedPage(PageCase):
         native, page = self.native.answer('dump').split('\n'), self.browser.answer('dump').split('\n')
         self.assertEqual([line for line in page if line not in native],
                          [line for line in native if line not in page], step)
+
+    def play_hands(self):
+        """At three sizes by mouse, finger and keyboard."""
+        self.both('seed 3')
+        steps = {'commpr(2)': 'VIDEOPOKER', 'Command8': 'NUOVA PARTITA', 'Command2(0)': 'Segna',
+                 'Command3': 'CAMBIA CARTE', 'Command1': 'NUOVA MANO', 'Command5': 'TERMINA', 'MENUVP': "MENU'"}
+        for width, height in (880, 573), (500, 900), (844, 390):
+            self.browser.resize(width, height)
+            self.browser.wait(f'return innerHeight == {height} && document.querySelector("canvas").height == {height}')
+            for device in 'mouse', 'finger', 'keyboard':
+                for control, name in steps.items():
+                    if device == 'keyboard':
+                        self.browser.draw()
+                        self.browser.walk_to(name)
+                        self.browser.key('Enter')
+                    else:
+                        act = self.browser.press if device == 'mouse' else self.browser.tap
+                        act(*self.browser.where(control))
+                    self.native.answer('click ' + control)
+                    self.compare(f'{control} by {device} at {width}x{height}')
+
+
+class InFirefox(BesideTheDriver):
+    def setUp(self):
+        super().setUp()
+        self.browser = Firefox()
+        self.addCleanup(self.browser.quit)
+        self.site = Site(SCRIPTED)
+        self.addCleanup(self.site.close)
+        self.browser.open(self.site)
+
+    def test_hands_at_any_size_by_any_device_and_again_without_a_network(self):
+        self.play_hands()
+        self.browser.keep()
+        self.site.close()
+        self.browser.open(self.site)
+        self.native.reopen()
+        self.play_hands()
+
+
+class ScriptedPage(BesideTheDriver, PageCase):
+    def setUp(self):
+        super().setUp()
+        self.start_browser()
+        self.serve(SCRIPTED)
+
+    def test_hands_at_any_size_by_any_device(self):
+        self.play_hands()
 
     def click(self, *names):
         """Clicks with the mouse in the page, and by command in the driver."""
@@ -378,7 +446,7 @@ class ScriptedPage(PageCase):
             kind = 'up' if self.browser.buttons & BITS[button] else 'down'
             if step == 0 or chance.random() < 0.5:
                 x, y = (chance.randrange(792), chance.randrange(573))
-                self.browser.move(x, y)
+                self.browser.move(x + 44, y)
                 self.native.answer(f'at {15 * x} {15 * y}')
             else:
                 getattr(self.browser, kind)(button)
@@ -395,14 +463,16 @@ class ScriptedPage(PageCase):
 
     def show_menu(self, width, height, density):
         self.browser.resize(width, height)
-        width, height = width * density, height * density
-        self.browser.wait(f'return document.querySelector("canvas").width == {width}')
-        scale = min(width / 792, height / 573)
-        left, top = int((width - 792 * scale) / 2), int((height - 573 * scale) / 2)
+        self.browser.wait(f'return document.querySelector("canvas").width == {width * density}')
+        left, top, scale = self.browser.room()
+        link = self.browser.find_element('id', 'guide').rect
+        self.assertTrue(link['x'] >= left + 792 * scale - 1 or link['y'] >= top + 573 * scale - 1, 'beside the room')
+        self.assertTrue(left < 1 or height - 573 * scale < 1 or 0 < height - link['height'] - 573 * scale < 1, 'it fills')
+        left, top, scale = (round(part * density, 3) for part in (left, top, scale))
         self.assertEqual(self.browser.pixel(left + 396 * scale, top + 170 * scale), '00ffff')
         for x in left + 1, left + 792 * scale - 2:
             self.assertEqual(self.browser.pixel(x, top + 1), 'ff8000', 'the banner goes from edge to edge')
-        self.assertEqual(self.browser.pixel(0, 0), 'ffc0c0' if left or top else 'ff8000')
+        self.assertEqual(self.browser.pixel(0, height * density - 1), 'ffc0c0')
         self.browser.tap(*self.browser.where('commpr(2)'))
         self.assertEqual(self.browser.answer('screen'), 'Frame3')
         self.browser.tap(*self.browser.where('MENUVP'), end='touchCancel')
@@ -412,16 +482,15 @@ class ScriptedPage(PageCase):
 
     def test_two_fingers_enlarge_and_press_nothing(self):
         hint = 'return getComputedStyle(document.querySelector("#turn")).display'
-        where = 'return document.querySelector("main").style.transform.match(/[-.\\d]+/g).map(Number)'
         for width, height, told in (390, 844, 'block'), (844, 390, 'none'):
             self.browser.resize(width, height, density=3)
             self.browser.wait(f'return document.querySelector("canvas").width == {3 * width}')
             self.assertEqual(self.browser.execute_script(hint), told)
             x, y = self.browser.where('commpr(2)')
-            fitting = left, top, scale = self.browser.execute_script(where)
+            fitting = left, top, scale = self.browser.room()
             for reach in 40, 150:
                 self.browser.pinch(x, y, reach)
-            left, top, enlarged = self.browser.execute_script(where)
+            left, top, enlarged = self.browser.room()
             self.assertAlmostEqual(enlarged, 4 * scale, places=3)
             self.assertTrue(-792 * enlarged + width <= left <= 0 and -573 * enlarged + height <= top <= 0)
             self.assertEqual(self.browser.execute_script(hint), 'none')
@@ -432,29 +501,36 @@ class ScriptedPage(PageCase):
             self.browser.tap(x, y)
             self.assertEqual(self.browser.answer('screen'), 'Frame3')
             self.browser.tap(x, y)
-            self.assertEqual(self.browser.execute_script(where), fitting)
+            self.assertEqual(self.browser.room(), fitting)
             self.browser.pinch(x, y, 150)
             self.browser.walk_to('NUOVA PARTITA')
             self.browser.walk_to("MENU'")
-            self.assertEqual(self.browser.execute_script(where), fitting, 'the focus is in sight')
+            self.assertEqual(self.browser.room(), fitting, 'the focus is in sight')
             self.assertEqual(self.browser.answer('click MENUVP'), 'ok')
             self.browser.draw()
 
     def test_a_long_random_session_of_all_games(self):
         lines, digests, screens = play_at_random(self.native)
         self.assertEqual(screens, SCREENS)
+        self.browser.execute_script(SPY)
         page = self.browser.execute_async_script('''
             const [lines, done] = arguments;
             const digest = async (text) => {
               const bytes = await crypto.subtle.digest('SHA-256', new TextEncoder().encode(text));
               return Array.from(new Uint8Array(bytes), (byte) => byte.toString(16).padStart(2, '0')).join('');
             };
-            const digests = lines.map((line) => digest(room.answer(line) + room.answer('dump')));
+            const digests = lines.map((line, i) => {
+              if (i % 10 == 0) room.draw();
+              return digest(room.answer(line) + room.answer('dump'));
+            });
             Promise.all(digests).then(done, (error) => done(String(error)));''', lines)
         self.assertEqual(len(page), len(digests))
         differing = [line for line, ours, theirs in zip(lines, digests, page) if ours != theirs]
         self.assertEqual(differing[:1], [], 'the first command after which the page shows something else')
         self.compare_files()
+        for face, letters in self.browser.execute_script('return letters').items():
+            file, = PAGE.glob(f'*/{face}.woff2')
+            self.assertLessEqual(set(map(ord, letters)), set(TTFont(file).getBestCmap()), face)
 
 
 if __name__ == '__main__':
