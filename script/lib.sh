@@ -85,8 +85,8 @@ install_missing() {
     grep '^E:' "$scratch/plan" >&2
     return 1
   }
-  say "$(awk '/ newly installed/ {n = $3} /^Need to get/ {fetch = $4 " " $5; sub("/.*", "", fetch)} /^After this/ {disk = $4 " " $5}
-    END {print n " packages, " fetch " to fetch, " disk " on the disk"}' "$scratch/plan")"
+  say "$(awk '/ newly installed/ {n = $3} /^Need to get/ {fetch = $4 " " $5; sub("/.*", "", fetch)}
+    /^After this/ {disk = $4 " " $5} END {print n " packages, " fetch " to fetch, " disk " on the disk"}' "$scratch/plan")"
 
   if ((EUID != 0)); then
     obstacle="that takes an administrator, who can run:"$'\n\n'"  $by_hand"$'\n'
@@ -117,6 +117,6 @@ build_page() { build "$1"; }
 # What another user has built, CMake could not change.
 [[ -w $root ]] || die "$root belongs to $(stat -c %U -- "$root"): nothing can be built there"
 for directory in "$root"/build*; do
-  [[ ! -e $directory || -O $directory ]] || die "$directory belongs to $(stat -c %U -- "$directory"): run this as that" \
-    "user, or remove it as root: rm -r $directory"
+  [[ ! -e $directory || -O $directory ]] ||
+    die "$directory belongs to $(stat -c %U -- "$directory"): run this as that user, or remove it as root: rm -r $directory"
 done
