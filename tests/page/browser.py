@@ -86,7 +86,8 @@ class Viewer:
     def keep(self, versions=1):
         """Waits until the browser keeps so many versions of the page, and answers from the last."""
         self.wait("""return navigator.serviceWorker.ready.then(async ({installing, waiting, active}) =>
-            !installing && !waiting && active.state == 'activated' && (await caches.keys()).length == %d)""" % versions)
+            !installing && !waiting && active.state == 'activated' &&
+            (await caches.keys()).filter((name) => name.startsWith('tombolario ')).length == %d)""" % versions)
 
     def answer(self, line):
         return self.execute_script('return room.answer(arguments[0])', line)
@@ -121,10 +122,10 @@ class Viewer:
         self.point([to(x, y), down(), up()])
 
     def pinch(self, x, y, reach):
-        """Two fingers, the second much later, go so far apart."""
+        """Two fingers go so far apart; the first slides a little, and the second is late."""
         self.point(*[[to(x + way, y + way), *begin, *(to(x + way * part / 10, y + way * part / 10)
                                                       for part in range(10, reach + 1, 5)), up()]
-                     for way, begin in ((-10, [down(), pause(350), pause()]), (10, [pause(), pause(), down()]))])
+                     for way, begin in ((-10, [down(), to(x, y - 10), pause(600), pause()]), (10, [*[pause()] * 3, down()]))])
 
     def key(self, key):
         self.perform([{'type': 'key', 'id': 'keys', 'actions': [{'type': kind, 'value': KEYS[key]}
@@ -181,9 +182,10 @@ class Chromium(Viewer, webdriver.Chrome):
                 for node in nodes if not node['ignored']]
 
     def complaints(self):
-        """All but advice how the test should read pixels."""
+        """All but advice how the test should read pixels, and icons that are not to be had without a network."""
         return [entry['message'] for entry in self.get_log('browser')
-                if entry['level'] in ('WARNING', 'SEVERE') and entry['source'] != 'rendering']
+                if entry['level'] in ('WARNING', 'SEVERE') and entry['source'] != 'rendering' and
+                'from the Manifest' not in entry['message']]
 
 
 class Firefox(Viewer):

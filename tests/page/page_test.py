@@ -177,6 +177,11 @@ class ShippedPage(unittest.TestCase):
         self.browser.execute_script(SPY)
         site.stalled = None
         self.assertIn('TOMBOLARIO', self.browser.wait('return letters.heavy'))
+        site = self.serve()
+        site.refused = '.wasm'
+        self.browser.get(site.address)
+        self.browser.wait('return getComputedStyle(document.querySelector("#opening .failing")).visibility == "visible"')
+        self.assertTrue(self.browser.complaints())
 
     def test_whatever_the_network_does_the_page_opens_again(self):
         self.browser.keep()
@@ -197,15 +202,19 @@ class ShippedPage(unittest.TestCase):
 
     def test_a_new_version_is_fetched_behind_and_opens_next_whole_or_not_at_all(self):
         self.browser.keep()
+        self.browser.execute_script('return caches.open("of another page")')
         self.site.directory, self.site.refused, self.site.asked = SCRIPTED, 'tombolario.wasm', []
         self.assertFalse(self.opens_the_new())
+        end = time.monotonic() + PATIENCE
         while not any(path.endswith('tombolario.wasm') for path in self.site.asked):
-            self.browser.wait('return true')
+            self.assertLess(time.monotonic(), end)
+            time.sleep(0.1)
         self.assertFalse(self.opens_the_new(), 'its module is missing')
         self.site.refused = None
         self.assertFalse(self.opens_the_new())
         self.browser.keep(versions=2)
         self.assertTrue(self.opens_the_new())
+        self.assertTrue(self.browser.execute_script('return caches.has("of another page")'))
 
 
 class ScriptedPage(unittest.TestCase):
@@ -348,6 +357,7 @@ class ScriptedPage(unittest.TestCase):
 
     def test_two_fingers_enlarge_and_press_nothing(self):
         self.start(Chromium())
+        self.browser.execute_cdp_cmd('Emulation.setTouchEmulationEnabled', {'enabled': True})
         hint = 'return getComputedStyle(document.querySelector("#turn")).display'
         for width, height, told in (390, 844, 'block'), (844, 390, 'none'), (660, 573, 'none'):
             self.browser.resize(width, height, density=3)
@@ -369,8 +379,9 @@ class ScriptedPage(unittest.TestCase):
             self.assertEqual(self.browser.pixel(round(3 * x), round(3 * (y + 14 * enlarged))), '00ffff')
             self.browser.tap(x, y)
             self.assertEqual(self.browser.answer('screen'), 'Frame3')
-            self.browser.tap(x, y)
-            self.assertEqual(self.browser.room(), fitting)
+            for _ in range(2):
+                self.browser.tap(x, y + 24 * enlarged)
+            self.assertEqual(self.browser.room(), fitting, 'two taps beside the buttons')
             self.browser.pinch(x, y, 90)
             self.browser.walk_to("MENU'")
             self.assertEqual(self.browser.room(), fitting, 'the focus is in sight')
