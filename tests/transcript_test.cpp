@@ -43,7 +43,7 @@ class ToldRoom {
     std::string word, name;
     words >> word;
     if (word == "press") {
-      while (words >> name) room_.driver.form().find(name)->click();
+      while (words >> name) press(name);
       return "ok";
     }
     std::string answer = "ok";
@@ -72,6 +72,14 @@ class ToldRoom {
       writeFile(room_.data.path() / name, records);
     }
     return "ok";
+  }
+
+  /// One control, or all of an array.
+  void press(const std::string& name) {
+    for (Control* control : room_.driver.form().controls()) {
+      if (name.compare(0, name.find('('), control->name().base) != 0) continue;
+      if (name == control->name().base || name == control->name().text()) control->click();
+    }
   }
 
   void look() {
