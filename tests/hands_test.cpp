@@ -5,6 +5,7 @@
 
 #include "poker/award.hpp"
 #include "poker/draw.hpp"
+#include "ramino/tris.hpp"
 #include "videopoker/scoring.hpp"
 
 namespace tombolario {
@@ -92,6 +93,22 @@ TEST(PokerDraw, TakesTheFirstTrialOfTheBestClass) {
                                       {{0, 13, 2, 4, 6}, 8, 1}}) {    // a pair gives way to a flush
     EXPECT_EQ(poker::chooseDraw(dealt, next), changed) << dealt[0] << ' ' << dealt[1] << ' ' << next;
   }
+}
+
+TEST(RaminoTris, AreAsManyAsCombinatoricsSays) {
+  int sets = 0, runs = 0, highRuns = 0;
+  for (int a = 0; a < 52; ++a)
+    for (int b = 0; b < 52; ++b)
+      for (int c = 0; c < 52; ++c) {
+        if (a == b || b == c || a == c) continue;
+        sets += ramino::isSet(a, b, c);
+        runs += ramino::isRun(a, b, c);
+        highRuns += ramino::isHighRun(a, b, c);
+      }
+  constexpr int kOrders = 6;
+  EXPECT_EQ(sets, 13 * 4 * kOrders);
+  EXPECT_EQ(runs, 4 * 11 * kOrders);
+  EXPECT_EQ(highRuns, 4 * kOrders);
 }
 
 }  // namespace
