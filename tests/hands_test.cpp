@@ -35,12 +35,14 @@ TEST(PokerHands, AreAsManyOfEachClassAsCombinatoricsSays) {
 TEST(VideoPokerHands, AreAsManyOfEachRowAsCombinatoricsSays) {
   const auto counts =
       countHands<11>(53, [](const Cards& cards) { return videopoker::score(handOf(cards)).row; });
-  // Those of 52 cards, and those of four and the joker. Of four different values, 256 hands each, 41 sets are
-  // part of a straight and 20 more are one by the ace; of a flush one suit in four is red.
-  EXPECT_EQ(counts, (std::array<long, 11>{1'302'540, 1'098'240 + (715 - 41 - 20) * 252, 123'552,
-                                          54'912 + 13 * 6 * 66 * 16, 10'200 + (41 + 20) * 252,
-                                          3'744 + 78 * 36, (5'108 + (715 - 41) * 4) / 4 * 3,
-                                          (5'108 + (715 - 41) * 4) / 4, 624 + 13 * 4 * 48, 40 + 41 * 4, 13}));
+  // Those of 52 cards, and those of four and the joker. Of four different values, 256 hands each, some are
+  // part of a straight and some more are one by the ace; of a flush one suit in four is red.
+  constexpr long kFours = 715, kStraights = 41, kByTheAce = 20;
+  constexpr long kFlushes = 5'108 + (kFours - kStraights) * 4;
+  EXPECT_EQ(counts, (std::array<long, 11>{
+                        1'302'540, 1'098'240 + (kFours - kStraights - kByTheAce) * 252, 123'552,
+                        54'912 + 13 * 6 * 66 * 16, 10'200 + (kStraights + kByTheAce) * 252, 3'744 + 78 * 36,
+                        kFlushes / 4 * 3, kFlushes / 4, 624 + 13 * 4 * 48, 40 + kStraights * 4, 13}));
 }
 
 TEST(VideoPokerHands, OnlyTheSecondCardIsAskedForRed) {

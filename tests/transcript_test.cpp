@@ -42,44 +42,42 @@ class ToldRoom {
     std::istringstream words(command);
     std::string word, name;
     words >> word;
-    if (word == "press") {
-      while (words >> name) press(name);
-      return "ok";
-    }
     std::string answer = "ok";
-    if (word == "repeat") {
+    if (word == "press") {
+      while (answer == "ok" && words >> name) answer = press(name);
+    } else if (word == "click") {
+      while (answer == "ok" && words >> name) answer = room_("click " + name);
+    } else if (word == "repeat") {
       int times = 0;
       std::getline(words >> times, name);
       while (answer == "ok" && times-- > 0) answer = carryOut(name);
-      return answer;
-    }
-    if (word == "click") {
-      while (answer == "ok" && words >> name) answer = room_("click " + name);
-      return answer;
-    }
-    if (word != "cards" && word != "file") return room_(command);
-    words >> name;
-    std::vector<int> numbers;
-    for (int number = 0; words >> number;) numbers.push_back(number);
-    if (word == "cards") {
-      room_.queueCards(std::stoi(name), numbers);
+    } else if (word == "cards") {
+      int pack = 0;
+      std::vector<int> cards;
+      words >> pack;
+      for (int card = 0; words >> card;) cards.push_back(card);
+      room_.queueCards(pack, cards);
+    } else if (word == "file") {
+      std::vector<std::int16_t> numbers;
+      words >> name;
+      for (std::int16_t number = 0; words >> number;) numbers.push_back(number);
+      room_.dataFiles.write(name, numbers);
     } else {
-      std::string records(40 * numbers.size(), '\0');
-      for (std::size_t i = 0; i < numbers.size(); ++i) {
-        records[40 * i] = static_cast<char>(numbers[i]);
-        records[40 * i + 1] = static_cast<char>(numbers[i] >> 8);
-      }
-      writeFile(room_.data.path() / name, records);
+      answer = room_(command);
     }
-    return "ok";
+    return answer;
   }
 
   /// One control, or all of an array.
-  void press(const std::string& name) {
+  std::string press(const std::string& name) {
+    std::string answer = "error: unknown control: " + name;
     for (Control* control : room_.driver.form().controls()) {
       if (name.compare(0, name.find('('), control->name().base) != 0) continue;
-      if (name == control->name().base || name == control->name().text()) control->click();
+      if (name != control->name().base && name != control->name().text()) continue;
+      control->click();
+      answer = "ok";
     }
+    return answer;
   }
 
   void look() {
@@ -92,11 +90,12 @@ class ToldRoom {
         values_[at++] = std::move(value);
       }
     }
-    for (const char* file : {"videopoker.dat", "CATENA.dat"}) {
-      const std::string content = contentOf(room_.data.path() / file);
+    for (const auto& [file, count] : {std::pair("videopoker.dat", 1U), std::pair("CATENA.dat", 2U)}) {
+      if (!std::filesystem::exists(room_.data.path() / file)) continue;
+      std::vector<std::int16_t> numbers(count);
       std::string records;
-      for (std::size_t i = 0; i + 1 < content.size(); i += 40)
-        records += ' ' + std::to_string(static_cast<std::int16_t>(content[i + 1] << 8 | (content[i] & 255)));
+      if (room_.dataFiles.read(file, numbers))
+        for (const int number : numbers) records += (records.empty() ? "" : " ") + std::to_string(number);
       if (std::exchange(files_[file], records) != records) note(file, "records", records);
     }
   }
@@ -120,7 +119,8 @@ class ToldRoom {
   static std::string textOf(const Change& change) {
     std::string lines, line = "  " + change.what;
     for (const auto& [index, value] : change.values) {
-      const std::string item = ' ' + index + '=' + value;
+      std::string item = ' ' + index;
+      item.append(1, '=').append(value);
       if (line.size() + item.size() > 110) lines += std::exchange(line, "   ") + '\n';
       line += item;
     }
