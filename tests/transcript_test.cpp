@@ -90,13 +90,13 @@ class ToldRoom {
         values_[at++] = std::move(value);
       }
     }
-    for (const auto& [file, count] : {std::pair("videopoker.dat", 1U), std::pair("CATENA.dat", 2U)}) {
-      if (!std::filesystem::exists(room_.data.path() / file)) continue;
-      std::vector<std::int16_t> numbers(count);
+    for (const auto& entry : std::filesystem::directory_iterator(room_.data.path())) {
+      const std::string file = entry.path().filename();
+      std::vector<std::int16_t> numbers((entry.file_size() + 39) / 40);
       std::string records;
       if (room_.dataFiles.read(file, numbers))
         for (const int number : numbers) records += (records.empty() ? "" : " ") + std::to_string(number);
-      if (std::exchange(files_[file], records) != records) note(file, "records", records);
+      if (std::exchange(files_[file], records) != records) note(file.c_str(), "records", records);
     }
   }
 
