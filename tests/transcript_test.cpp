@@ -15,11 +15,12 @@ namespace {
 class ToldRoom {
  public:
   std::string after(const std::string& command) {
+    changes_.clear();
     if (values_.empty()) {
       if (command != "start") room_("start");
       look();
+      if (command != "start") changes_.clear();
     }
-    changes_.clear();
     const std::string answer = carryOut(command);
     look();
     std::string told = answer == "ok" ? "" : "  " + answer + '\n';
@@ -85,7 +86,8 @@ class ToldRoom {
     for (const Control* control : room_.driver.form().controls()) {
       for (const PropertyReader& property : properties()) {
         std::string value = property.read(*control);
-        if (at == values_.size()) values_.push_back(value);
+        // What is hidden from the beginning is told, too.
+        if (at == values_.size()) values_.push_back(property.name == "Visible" ? "1" : value);
         if (value != values_[at]) note(control->name(), std::string(property.name), value);
         values_[at++] = std::move(value);
       }
