@@ -11,13 +11,14 @@ namespace {
 
 struct Played {
   ~Played() {
-    std::printf("%ld events, %ld saves\n", events, saves);
+    std::printf("%ld events\n", events);
+    for (const auto& [what, times] : reached) std::printf("%ld %s\n", times, what.c_str());
     std::filesystem::remove_all(directory);
   }
   std::filesystem::path directory =
       std::filesystem::temp_directory_path() / ("tombolario-fuzz-" + std::to_string(getpid()));
   long events = 0;
-  long saves = 0;
+  tombolario::Reached reached;
 };
 
 }  // namespace
@@ -27,6 +28,6 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   tombolario::Walk walk({data, size}, played.directory);
   walk.play();
   played.events += walk.events();
-  played.saves += walk.files().saves();
+  for (const auto& [what, times] : walk.reached()) played.reached[what] += times;
   return 0;
 }
