@@ -96,8 +96,9 @@ TEST_F(Painting, OfWordsAndLines) {
   Label hidden{form, "hidden", {0, 0, 900, 900}, "hidden", {.visible = false}};
   Label left{form, "left", {0, 600, 900, 255}, "left", {.align = Align::Left}};
   Label right{form, "right", {0, 840, 900, 255}, "right", {.align = Align::Right, .border = Border::Single}};
-  Label broken{form, "broken", {0, 1110, 900, 555}, "two lines of words", {.border = Border::Etched}};
+  Label broken{form, "broken", {0, 1110, 900, 825}, "three lines of words", {.border = Border::Etched}};
   Label written{form, "written", {900, 600, 1200, 555}, "one\ntwo of them", {.border = Border::Sunken}};
+  Label whole{form, "whole", {2100, 1230, 900, 480}, "three lines of words", {}};
   Label small{form, "small", {900, 1200, 600, 255}, "muchtoolong for it", stripLook(kYellow, kBlue)};
   Label off{form, "off", {1500, 1200, 600, 225}, "off", {.fore = kWhite, .font = {.bold = true}}};
   off.Enabled = false;
@@ -137,6 +138,8 @@ TEST_F(Painting, OfPictures) {
   Label onIt{*bordered, "onIt", {150, 150, 150, 150}, "", {.back = kBlue}};
   Image own{form, "own", {0, 600, 180, 165}, kDot};
   Image smaller{form, "smaller", {300, 600, 120, 60}, kDot};
+  Image narrow{form, "narrow", {450, 600, 75, 120}, kDot};
+  Image high{form, "high", {1500, 600, 150, 135}, kDot};
   Image none{form, "none", {600, 600, 120, 60}, {}};
   Image off{form, "off", {900, 600, 495, 315}, kAll};
   off.Enabled = false;

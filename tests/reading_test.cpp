@@ -21,6 +21,8 @@ std::string heard(const Form& form) {
     for (const int number : {box.left, box.top, box.width, box.height}) lines += std::to_string(number) + ' ';
     lines += kRoles.at(static_cast<std::size_t>(reading.role)) + std::string(" \"") + reading.name + "\" \"" +
              reading.news + '"';
+    if (reading.control->MousePointer == kCustomPointer)
+      lines += ' ' + reading.control->MouseIcon.get().name();
     if (reading.group != nullptr) lines += " of " + reading.group->name().text();
     lines += '\n';
   }

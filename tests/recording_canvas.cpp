@@ -83,7 +83,9 @@ void RecordingCanvas::text(std::string_view text, const Typeface& face, Vec star
 }
 
 double RecordingCanvas::textWidth(std::string_view text, const Typeface& face) {
-  return static_cast<double>(text.size()) * face.em * (0.5 + face.weight / 5000.0);
+  double width = 0;
+  for (const char c : text) width += face.em * (0.35 + face.weight / 5000.0 + c % 8 / 20.0);
+  return width;
 }
 
 void RecordingCanvas::copy(Canvas& from, Vec at) {
