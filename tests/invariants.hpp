@@ -37,7 +37,7 @@ class Invariants {
   struct Game {
     std::string name;
     std::function<std::string()> check;  // throws, or tells the end that the game has come to
-    std::string end = "";
+    std::string end = {};
   };
 
   Form& room_;

@@ -26,6 +26,10 @@ void drawAll(Painter& painter, int) {
   constexpr std::array kColours{kRed, kBlue};
   const std::array<Vec, 3> corners{Vec{1, 1}, Vec{9.5, 1}, Vec{5, 7}};
   painter.fillRect({0, 0, 33, 21}, kYellow);
+  painter.fillRect({-1, 5, 40, 3}, kBlue);
+  painter.fillRect({5, -1, 3, 40}, kRed);
+  painter.fillRect({0, 0, 3, 21}, kGreen);
+  painter.fillRect({0, 0, 33, 3}, kRed);
   painter.fillRect({2, 3, 1, 7}, kBlack);
   painter.fillRect({32, 20, 1, 1}, kBlue);
   painter.fillRect({3, 3, 0.3, 0}, kBlue);

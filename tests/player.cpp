@@ -242,7 +242,7 @@ Player::Player(Form& room)
       {"Command44", "Command11", "Command8", "Command9", "Command4", "Command7", "Command1", "giocodom",
        "passadomban", "Commdomban", "NUOVAPARDOM", "INICAT", "CoNTCAT", "CARCAT", "SALVACAT", "GIOCORAM"},
       options));
-  games_.push_back([over = room.find("result"), again = room.find("Command15")] {
+  games_.emplace_back([over = room.find("result"), again = room.find("Command15")] {
     return over->onView() ? Row{again} : Row{};
   });
 }

@@ -120,6 +120,7 @@ TEST(Reading, GoesByPlace) {
              left = add(screen, "left", {0, 249, 300, 300}, "left"),
              below = add(screen, "below", {0, 251, 300, 300}, " below\n it "),
              number = add(screen, "number", {1230, 100, 300, 300}, "7"),
+             twin = add(screen, "twin", {0, 260, 400, 300}, "twin"),
              far = add(screen, "far", {1561, 100, 300, 300}, "8"),
              over = add(screen, "over", {2900, 600, 300, 300}, "over the edge"),
              outside = add(screen, "outside", {3000, 600, 300, 300}, "outside"),
