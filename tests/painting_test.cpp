@@ -155,10 +155,11 @@ TEST_F(Painting, OfPictures) {
 TEST_F(Painting, OfWhatIsPressed) {
   file = "painting-buttons.txt";
   Frame group{form, "group", {1500, 0, 1500, 1995}, {.back = kWhite}};
-  Button wide{form, "wide", {0, 0, 900, 405}, "much too long a caption", buttonLook(kRed)};
+  Button wide{form, "wide", {0, 795, 900, 405}, "much too long a caption", buttonLook(kRed)};
   Button below{form, "below", {0, 390, 900, 405}, "below", buttonLook(kRed)};
-  Button apart{form, "apart", {0, 825, 900, 405}, "apart", buttonLook(kRed)};
-  Button other{form, "other", {0, 1230, 900, 405}, "in another font", {.back = kRed}};
+  Button top{form, "top", {0, 0, 900, 390}, "top", buttonLook(kRed)};
+  Button apart{form, "apart", {0, 1230, 900, 405}, "apart", buttonLook(kRed)};
+  Button other{form, "other", {0, 1635, 900, 360}, "in another font", {.back = kRed}};
   Button beside{form, "beside", {900, 0, 600, 405}, "", buttonLook(kWhite, kDot)};
   Button off{form, "off", {900, 405, 600, 405}, "off", buttonLook(kBlue)};
   Button offPicture{form, "offPicture", {900, 825, 600, 405}, "", buttonLook(kBlue, kAll)};
