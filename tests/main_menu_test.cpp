@@ -90,7 +90,8 @@ TEST_F(MainMenuTest, AnEdgeCountsAsInside) {
     if (control->name().base == "commpr") last = control;
   const Point middle = last->origin() + Point{last->Width / 2, last->Height / 2};
   const Point corner = last->origin() + Point{last->Width, last->Height};
-  for (const Point edge : {Point{corner.x, middle.y}, Point{middle.x, corner.y}}) {
+  for (const Point edge : {Point{corner.x, last->origin().y}, Point{corner.x, middle.y},
+                           Point{last->origin().x, corner.y}, Point{middle.x, corner.y}}) {
     form.mouseMove(middle);
     form.mouseMove(edge);
     EXPECT_EQ(hovered(), last->name().text() + ' ');
