@@ -27,6 +27,8 @@ void drawAll(Painter& painter, int) {
   const std::array<Vec, 3> corners{Vec{1, 1}, Vec{9.5, 1}, Vec{5, 7}};
   painter.fillRect({0, 0, 33, 21}, kYellow);
   painter.fillRect({-1, 5, 40, 3}, kBlue);
+  painter.fillRect({1, 0, 40, 40}, kBlack);
+  painter.fillRect({0, 1, 40, 40}, kRed);
   painter.fillRect({5, -1, 3, 40}, kRed);
   painter.fillRect({0, 0, 3, 21}, kGreen);
   painter.fillRect({0, 0, 33, 3}, kRed);
@@ -102,6 +104,7 @@ TEST_F(Painting, OfWordsAndLines) {
   Label right{form, "right", {0, 840, 900, 255}, "right", {.align = Align::Right, .border = Border::Single}};
   Label broken{form, "broken", {0, 1110, 900, 825}, "three lines of words", {.border = Border::Etched}};
   Label written{form, "written", {900, 600, 1200, 555}, "one\ntwo of them", {.border = Border::Sunken}};
+  Label close{form, "close", {1500, 0, 900, 900}, "noon of once noon", {}};
   Label whole{form, "whole", {2100, 1230, 900, 480}, "three lines of words", {}};
   Label small{form, "small", {900, 1200, 600, 255}, "muchtoolong for it", stripLook(kYellow, kBlue)};
   Label off{form, "off", {1500, 1200, 600, 225}, "off", {.fore = kWhite, .font = {.bold = true}}};
