@@ -92,5 +92,13 @@ TEST(Driver, EndsOnItsLastCommand) {
   EXPECT_TRUE(room.driver.ended());
 }
 
+TEST(Driver, ListsTheCatalogue) {
+  Session room;
+  const std::string list = room("pictures");
+  for (const char* line : {"commpr(1) 166x18\n", "\nPicture1(52) 70x93\n", "\nsegn(3) 167x20\n", "\n."}) {
+    EXPECT_NE(list.find(line), std::string::npos) << line;
+  }
+}
+
 }  // namespace
 }  // namespace tombolario
