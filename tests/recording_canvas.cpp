@@ -34,7 +34,7 @@ std::string shown(const Rect& rect) {
 
 std::string shown(std::span<const Vec> points) {
   std::string all;
-  for (const Vec& point : points) all += (all.empty() ? "" : " ") + shown(point);
+  for (const Vec& point : points) all.append(all.empty() ? "" : " ").append(shown(point));
   return all;
 }
 
@@ -43,7 +43,7 @@ std::string shown(std::span<const Vec> points) {
 template <class... Parts>
 void RecordingCanvas::tell(const char* what, const Parts&... parts) {
   told_ += indent_ + what;
-  ((told_ += ' ' + shown(parts)), ...);
+  (told_.append(1, ' ').append(shown(parts)), ...);
   told_ += '\n';
 }
 
@@ -61,7 +61,7 @@ void RecordingCanvas::fillPolygon(std::span<const Vec> points, Rgb colour) { tel
 
 void RecordingCanvas::fillPolygon(std::span<const Vec> points, const Gradient& gradient) {
   std::string colours = gradient.shape == Gradient::Shape::Linear ? "linear" : "radial";
-  for (const Rgb colour : gradient.colours) colours += ' ' + shown(colour);
+  for (const Rgb colour : gradient.colours) colours.append(1, ' ').append(shown(colour));
   tell("fill", colours, gradient.from, gradient.to, points);
 }
 
