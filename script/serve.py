@@ -38,7 +38,7 @@ class Handler(http.server.SimpleHTTPRequestHandler):
         try:
             body = file.read_bytes()
             policy = POLICY.search((root / 'index.html').read_text())[1]
-        except OSError:
+        except (OSError, ValueError):
             return self.send_error(404)
         tag = f'"{hashlib.sha256(body).hexdigest()[:16]}"'
         known = self.headers.get('If-None-Match') == tag
@@ -70,9 +70,9 @@ def serve(directory, address, port, handler=Handler):
 def main(directory, address, port):
     try:
         server = serve(directory, address, int(port))
-    except OSError as error:
-        taken = error.errno == errno.EADDRINUSE
-        reason = 'is taken' if taken else f'is not to be had: {error.strerror}'
+    except (OSError, ValueError, OverflowError) as error:
+        taken = getattr(error, 'errno', None) == errno.EADDRINUSE
+        reason = 'is taken' if taken else f'is not to be had: {error}'
         sys.exit(f'script/web: port {port} of {address} {reason}')
     print(f'script/web: the room is at http://{address}:{port}/ until Ctrl-C', flush=True)
     try:

@@ -55,55 +55,6 @@ TEST(Driver, ABadCommandAnswersAnErrorAndChangesNothing) {
   EXPECT_EQ(room("screen"), "Frameprincipale");
 }
 
-TEST(Driver, QueuedNumbersComeFirstAndInOrder) {
-  Session room;
-  EXPECT_EQ(room("start"), "ok");
-  EXPECT_EQ(room("u 0.99 0 5e-1"), "ok");
-  EXPECT_EQ(room("u 0.25"), "ok");
-  EXPECT_EQ(room("queued"), "4");
-  room.play({"click commpr(2)", "click Command8"});
-  EXPECT_EQ(room("queued"), "0");
-  room.expect({"Pict(0) Picture=Picture1(52)", "Pict(1) Picture=Picture1(0)", "Pict(2) Picture=Picture1(26)",
-               "Pict(3) Picture=Picture1(13)"});
-}
-
-TEST(Driver, TheSeedAloneDecidesTheDeals) {
-  const auto deal = [](const char* seed) {
-    Session room;
-    if (seed != nullptr) {
-      EXPECT_EQ(room(std::string("seed ") + seed), "ok");
-    }
-    room.play({"click commpr(2)", "click Command8"});
-    return room("dump");
-  };
-  EXPECT_EQ(deal(nullptr), deal("1"));
-  EXPECT_NE(deal("1"), deal("2"));
-}
-
-TEST(Driver, PropertiesAreTold) {
-  Session room;
-  room.expect({"Form1 Caption=Tombolario",
-               "Form1 Width=11880",
-               "Form1 Height=8595",
-               "Form1 BackColor=0x0000FF",
-               "Frame3 BackColor=tooltip",
-               "Frame3BIS BackColor=window",
-               "Frame1(0) BackColor=3d-light",
-               "Label4 Caption=TOMBOLARIO ",
-               "Label4 ForeColor=0xFFFFFF",
-               "commpr(3) Picture=commpr(3)",
-               "commpr(3) Top=2640",
-               "Command4 Picture=CONTPOK1",
-               "Label13 Picture=none",
-               "Label13 MouseIcon=Label13",
-               "Label4 MouseIcon=Label4",
-               "Label9 MouseIcon=Label9",
-               "Label3 Caption= Dotazione",
-               "Pict(3) Left=360",
-               "LVIDPOK Left=-120",
-               "CoNTCAT Enabled=0"});
-}
-
 TEST(Driver, TheDumpShowsWhatIsOnView) {
   Session room;
   room.play({"click commpr(2)"});
@@ -139,6 +90,14 @@ TEST(Driver, EndsOnItsLastCommand) {
   EXPECT_FALSE(room.driver.ended());
   EXPECT_EQ(room("quit"), "ok");
   EXPECT_TRUE(room.driver.ended());
+}
+
+TEST(Driver, ListsTheCatalogue) {
+  Session room;
+  const std::string list = room("pictures");
+  for (const char* line : {"commpr(1) 166x18\n", "\nPicture1(52) 70x93\n", "\nsegn(3) 167x20\n", "\n."}) {
+    EXPECT_NE(list.find(line), std::string::npos) << line;
+  }
 }
 
 }  // namespace

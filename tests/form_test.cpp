@@ -92,6 +92,10 @@ TEST_F(FormTest, OnlyTheLeftButtonClicksAndAllAreHeardDownAndUp) {
   release(kOnSecond, MouseButton::Right);
   EXPECT_EQ(taken(), "down(first*) down(first) up(first) up(first*) ")
       << "no click where another button holds";
+  press(kOnFirst, MouseButton::Right);
+  release(kOnSecond);
+  release(kOnSecond, MouseButton::Right);
+  EXPECT_EQ(taken(), "down(first*) up(first*) ") << "a release without a press is nobody's";
 }
 
 TEST_F(FormTest, ADisabledControlTakesTheMouseAndDoesNothing) {
@@ -233,7 +237,14 @@ TEST_F(FormTest, OnlyAChangeAsksForDrawing) {
   form.mouseMove(kOnGround);
   EXPECT_TRUE(drawn());
   EXPECT_FALSE(form.holdsDown(first));
+  form.mouseMove(kOnFirst);
+  EXPECT_TRUE(drawn()) << "and sinks again";
+  form.mouseLost();
+  EXPECT_TRUE(drawn());
+  press(kOnFirst);
+  drawn();
   form.mouseUp(MouseButton::Left);
+  EXPECT_TRUE(drawn());
   press(kOnGround);
   release(kOnGround);
   EXPECT_FALSE(drawn()) << "the ground looks the same";

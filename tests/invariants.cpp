@@ -16,19 +16,15 @@ namespace tombolario {
 
 namespace {
 
-using Check = std::function<bool()>;
-using Row = std::vector<const Control*>;
-
-/// The controls of an array, from one index to another.
-Row row(Form& form, const std::string& name, int first, int last) {
-  Row found;
-  for (int i = first; i <= last; ++i) found.push_back(form.find(name + '(' + std::to_string(i) + ')'));
-  return found;
-}
+using Check = std::function<std::string()>;
 
 bool visible(const Control* control) { return control->Visible; }
 long visibleOf(const Row& row) { return std::count_if(row.begin(), row.end(), visible); }
 int numberOn(const Control* label) { return std::stoi(label->Caption.get()); }
+std::string wordOn(const Control* result) {
+  const std::string& caption = result->Caption;
+  return caption == "HAI VINTO" ? "won" : caption == "HAI PERSO" ? "lost" : "drawn";
+}
 
 bool isNumber(std::string_view caption) {
   if (caption.substr(0, 1) == "-") caption.remove_prefix(1);
@@ -68,21 +64,23 @@ class Seen {
 
 Check videoPoker(Form& form) {
   return [hand = row(form, "Pict", 0, 4), rows = row(form, "segn", 0, 10), change = form.find("Command3"),
-          table = form.find("Frame3BIS")] {
+          table = form.find("Frame3BIS"), summary = form.find("Framecen"),
+          gain = form.find("Label6")]() -> std::string {
     const long lit = visibleOf(rows);
     require(lit <= 1, "a hand is paid twice");
-    if (!table->Visible) return false;
+    if (summary->Visible) return numberOn(gain) > 0 ? "run won" : "run lost";
+    if (!table->Visible) return "";
     Seen(pictures::Picture1, 53).add(hand);
     require(lit == 0 || !change->Enabled, "a hand that is paid can be changed");
-    return lit == 1;
+    return "";
   };
 }
 
 Check poker(Form& form) {
   return [player = row(form, "Pictt", 0, 4), computer = row(form, "Pictt", 10, 14),
           change = form.find("Command33"), next = form.find("Command11"), mark = form.find("Command22(0)"),
-          result = form.find("result"), table = form.find("Frame2BIS")] {
-    if (!table->Visible) return false;
+          result = form.find("result"), table = form.find("Frame2BIS")]() -> std::string {
+    if (!table->Visible) return "";
     Seen cards(pictures::Picture11, 52);
     cards.add(player);
     const bool covered = computer.front()->Picture == PictureId(pictures::ufo);
@@ -90,7 +88,7 @@ Check poker(Form& form) {
     require(covered == mark->Visible, "the computer shows its cards before the player has changed");
     require(change->Enabled.get() == mark->Visible, "a hand is changed while it can be marked");
     if (result->Visible) require(!change->Enabled && !next->Enabled, "a match that is over goes on");
-    return result->Visible.get();
+    return result->Visible ? "match " + wordOn(result) : "";
   };
 }
 
@@ -101,11 +99,11 @@ Check domino(Form& form) {
           computer = form.find("Commdomban"), result = form.find("NUOVAPARDOM"),
           playerHas = form.find("domcont1"), computerHas = form.find("domcont2"),
           leftEnd = form.find("wwwdom2"), rightEnd = form.find("wwwdom"), bar = form.find("HScrolldom"),
-          table = form.find("Frame5BIS")] {
+          leave = form.find("FINEDOM"), table = form.find("Frame5BIS")]() -> std::string {
     const auto box = [&line](int number) { return line.at(static_cast<std::size_t>(number)); };
     require(pass->Enabled + computer->Enabled + result->Visible <= 1, "it is nobody's turn, or two turns");
     require(visibleOf(line) == 1 && box(bar->Value)->Visible, "the bar and the line differ");
-    if (!table->Visible) return false;
+    if (!table->Visible) return "";
 
     const auto isBlank = [](const Control* end) {
       return end->Picture == PictureId(pictures::domin, kFaces);
@@ -125,20 +123,21 @@ Check domino(Form& form) {
     require(visibleOf(hand) == visibleOf(buttons) && visibleOf(hand) == numberOn(playerHas),
             "the player's tiles are miscounted");
     require(last - first + 1 + numberOn(playerHas) + numberOn(computerHas) == kTiles, "a tile is lost");
-    return result->Visible.get();
+    if (!result->Visible) return "";
+    return (leave->BackColor == Colour(kRed) ? "match " : "game ") + wordOn(result);
   };
 }
 
 Check chain(Form& form) {
   return [onTable = row(form, "pictca", 1, 5), marks = row(form, "Sh", 1, 5), full = form.find("Lok"),
           linked = form.find("Lll1"), next = form.find("nmcat"), left = form.find("Lmacatpu"),
-          table = form.find("Frame4BIS")] {
+          score = form.find("Lpuca"), table = form.find("Frame4BIS")]() -> std::string {
     const auto exchanged = [](const Control* mark) { return mark->BorderColor == Colour(kRed); };
     const auto substituted = [](const Control* mark) { return mark->FillColor == Colour(0xFFFF80); };
     require(std::count_if(marks.begin(), marks.end(), exchanged) <= 2, "three tiles to exchange");
     require(std::count_if(marks.begin(), marks.end(), substituted) <= 2, "three tiles to substitute");
     const bool levelIsOver = !next->Enabled && left->Caption == "10";
-    if (!table->Visible) return levelIsOver;
+    if (!table->Visible) return !levelIsOver ? "" : numberOn(score) >= 30 ? "level won" : "level lost";
 
     Seen tiles(pictures::Picture2, kChainTiles);
     tiles.add(onTable);
@@ -148,7 +147,7 @@ Check chain(Form& form) {
     }
     require(numberOn(linked) == links && full->Visible == (links == 4), "the links are miscounted");
     require(numberOn(left) >= 1 && numberOn(left) <= 10, "a level of more than ten hands");
-    return levelIsOver;
+    return "";
   };
 }
 
@@ -159,7 +158,7 @@ Check ramino(Form& form) {
           inPlay = form.find("ramin(9)"), fromStock = form.find("Ramfr(9)"),
           fromTable = form.find("Frame19b"), onTable = form.find("cartatr"), bar = form.find("VScrollram1"),
           draw = form.find("mazzoram"), leave = form.find("ramlas"), turn = form.find("ramturncom"),
-          button = form.find("ramCom(0)")] {
+          button = form.find("ramCom(0)"), goOn = form.find("Continuaramino")]() -> std::string {
     const long ended = visibleOf(ends);
     require(ended <= 1, "a hand has two ends");
     require(draw->Enabled + leave->Enabled + turn->Enabled == 1 - ended, "it is nobody's turn, or two turns");
@@ -176,14 +175,17 @@ Check ramino(Form& form) {
     // A card that was just covered stays on view until the turn is done.
     const int covered = seen == 0 ? 0 : bar->Max + !fromStock->Visible;
     for (int i = 0; i < covered; ++i) cards.add(list.at(static_cast<std::size_t>(i)));
-    return ended == 1;
+    if (ended == 0) return "";
+    const char* how = ends[0]->Visible ? "won" : ends[1]->Visible ? "lost" : "drawn";
+    return std::string(goOn->Visible ? "hand " : "match ") + how;
   };
 }
 
 Check mahjongg(Form& form) {
   return [cells = row(form, "Commah", 1, 120), bench = row(form, "labmah", 0, kKinds - 1),
-          search = form.find("CERPEDMAH"), remove = form.find("ELPEDMAH"), screen = form.find("Frame7")] {
-    if (!screen->Visible) return false;
+          search = form.find("CERPEDMAH"), remove = form.find("ELPEDMAH"),
+          screen = form.find("Frame7")]() -> std::string {
+    if (!screen->Visible) return "";
     const auto selected = [](const Control* cell) { return cell->BackColor == Colour(kRed); };
     const auto chosen = std::count_if(cells.begin(), cells.end(), selected);
     require(search->Enabled == (chosen == 1) && remove->Enabled == (chosen == 2),
@@ -199,7 +201,8 @@ Check mahjongg(Form& form) {
       require(left[kind] % 2 == 0 && numberOn(bench[kind]) == left[kind], "a kind is miscounted");
       require(bench[kind]->Visible == (left[kind] > 0), "a kind that is gone is seen");
     }
-    return chosen == 2;
+    if (chosen > 0 || !freeAlike(cells).empty()) return "";
+    return visibleOf(cells) == 0 ? "board won" : "board lost";
   };
 }
 
@@ -222,8 +225,10 @@ void checkReading(Form& room) {
 }  // namespace
 
 Invariants::Invariants(Form& room)
-    : room_(room), games_{{poker(room)}, {videoPoker(room)}, {domino(room)},
-                          {chain(room)}, {ramino(room)},     {mahjongg(room)}} {
+    : room_(room), games_{{"poker", poker(room)},   {"videopoker", videoPoker(room)},
+                          {"domino", domino(room)}, {"chain", chain(room)},
+                          {"ramino", ramino(room)}, {"mahjongg", mahjongg(room)}} {
+  require(std::ssize(games_) == pictures::commpr.count, "tests/invariants.cpp does not know the last game");
   screens_.assign(room.children().begin(), room.children().end());
   for (const char* name : {"Label2", "Label5", "Label6", "hum1", "comp1", "scoredom1", "scoredom2",
                            "domcont1", "domcont2", "PRAMC", "PRAMH", "Lpuca", "Lmacatpu", "Llivpuca",
@@ -246,9 +251,9 @@ void Invariants::check() {
     if (!caption.empty() && !isNumber(caption)) throw Violation(label->name().text() + " says " + caption);
   }
   for (Game& game : games_) {
-    const bool ended = game.check();
-    game.ends += ended && !game.ended;
-    game.ended = ended;
+    const std::string end = game.check();
+    if (!end.empty() && end != game.end) ++reached_[game.name + ' ' + end];
+    game.end = end;
   }
 }
 

@@ -1,10 +1,12 @@
 #pragma once
 
 #include <functional>
+#include <map>
 #include <stdexcept>
 #include <string>
 #include <vector>
 
+#include "player.hpp"
 #include "toolkit/form.hpp"
 
 namespace tombolario {
@@ -18,6 +20,9 @@ inline void require(bool holds, const char* otherwise) {
   if (!holds) throw Violation(otherwise);
 }
 
+/// What a walk has come to, and how often.
+using Reached = std::map<std::string, long>;
+
 /// All that can be seen to hold after every event, however the player got there.
 class Invariants {
  public:
@@ -25,17 +30,14 @@ class Invariants {
 
   /// Throws a Violation.
   void check();
-  /// How often a game, counted from 1 as on the main menu, came to an end.
-  long ends(int game) const {
-    require(game <= static_cast<int>(games_.size()), "tests/invariants.cpp does not know the last game");
-    return games_[static_cast<std::size_t>(game - 1)].ends;
-  }
+  /// How often each game came to each of its ends, as `domino match won`.
+  const Reached& reached() const { return reached_; }
 
  private:
   struct Game {
-    std::function<bool()> check;  // throws, or tells whether the game is at an end
-    bool ended = false;
-    long ends = 0;
+    std::string name;
+    std::function<std::string()> check;  // throws, or tells the end that the game has come to
+    std::string end = {};
   };
 
   Form& room_;
@@ -43,6 +45,7 @@ class Invariants {
   std::vector<const Control*> screens_;
   std::vector<const Control*> counts_;
   std::vector<Game> games_;
+  Reached reached_;
 };
 
 }  // namespace tombolario

@@ -15,18 +15,6 @@ constexpr Size kWindow{792, 573};
 
 constexpr double kScales[] = {0.4, 1, 1.25, 1.5, 2, 3.3};
 
-TEST(Painter, UprightEdgesStaySharpAtEveryScale) {
-  for (const double scale : kScales) {
-    Sheet canvas({100, 100}, scale);
-    canvas.painter.fillRect({0, 0, 100, 100}, kWhite);
-    canvas.painter.enter({7.3, 9.1, 60.7, 71.9});
-    canvas.painter.fillRect({-10, -10, 43.7, 200}, kRed);
-    canvas.painter.outlineRect({2.2, 3.3, 50.5, 50.1}, kBlue, 1);
-    canvas.painter.leave();
-    EXPECT_EQ(canvas.colours(), (std::set<Rgb>{kWhite, kRed, kBlue})) << scale;
-  }
-}
-
 TEST(Painter, ClipsAndMovesTheOriginUntilLeft) {
   Sheet canvas({20, 20}, 1);
   canvas.painter.fillRect({0, 0, 20, 20}, kWhite);
@@ -68,35 +56,6 @@ TEST(Painter, APictureLooksAsDrawnDirectly) {
         ASSERT_EQ(direct.pixel(x, y), cached.pixel(x, y)) << x << ',' << y;
     }
   }
-}
-
-/// How many lines of text lie below each other in a captioned box, none of it near its sides.
-int linesSeen(const char* caption, Size size) {
-  Sheet canvas(size, 2);
-  const Rect box{0, 0, static_cast<double>(size.width), static_cast<double>(size.height)};
-  canvas.painter.fillRect(box, kWhite);
-  drawCaption(canvas.painter, box, caption, {.points = 9.75, .bold = true}, kBlack, Align::Centre);
-  int lines = 0;
-  bool inText = false;
-  for (int y = 0; y < canvas.height(); ++y) {
-    bool ink = false;
-    for (int x = 0; x < canvas.width(); ++x) {
-      if (canvas.pixel(x, y) == kWhite) continue;
-      ink = true;
-      EXPECT_TRUE(x >= 4 && x < canvas.width() - 4) << caption;
-    }
-    lines += ink && !inText;
-    inText = ink;
-  }
-  return lines;
-}
-
-TEST(Captions, BreakAtTheirBlanksWhereTheBoxIsTallEnough) {
-  EXPECT_EQ(linesSeen("CAMBIA CARTE", {65, 33}), 2);
-  EXPECT_EQ(linesSeen("CAMBIA CARTE", {65, 32}), 1);
-  EXPECT_EQ(linesSeen("CAMBIA CARTE", {150, 33}), 1);
-  EXPECT_EQ(linesSeen("CAMBIA TUTTE CARTE", {65, 60}), 3);
-  EXPECT_EQ(linesSeen("CAMBIACARTE", {65, 60}), 1);
 }
 
 /// What is out of use stays on its ground and can be read: captions and pictures alike, at every scale.

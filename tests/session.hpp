@@ -15,16 +15,6 @@
 namespace tombolario {
 
 // What a failed expectation shows.
-template <class Value>
-void PrintTo(const Property<Value>& property, std::ostream* out) {
-  *out << testing::PrintToString(property.get());
-}
-inline void PrintTo(const TextProperty& text, std::ostream* out) {
-  *out << testing::PrintToString(text.get());
-}
-inline void PrintTo(const Colour& colour, std::ostream* out) {
-  *out << (colour.isSystem() ? "system " : "") << std::hex << colour.rgb() << std::dec;
-}
 inline void PrintTo(const PictureId& picture, std::ostream* out) { *out << picture.name(); }
 
 /// A directory of its own for the data files of one test, gone after it.
@@ -71,16 +61,6 @@ class Session {
   }
   std::string get(const std::string& control, const std::string& property) {
     return driver.answer("get " + control + ' ' + property);
-  }
-  /// The controls that differ from what is expected, by the properties given as "NAME Property=value".
-  void expect(std::initializer_list<const char*> facts) {
-    for (const std::string_view fact : facts) {
-      const std::size_t blank = fact.find(' ');
-      const std::size_t equals = fact.find('=');
-      const std::string control(fact.substr(0, blank));
-      const std::string property(fact.substr(blank + 1, equals - blank - 1));
-      EXPECT_EQ(get(control, property), fact.substr(equals + 1)) << control << ' ' << property;
-    }
   }
   /// The next cards to be dealt from a pack of that many, in order.
   void queueCards(int pack, const std::vector<int>& cards) {

@@ -10,26 +10,37 @@ namespace tombolario {
 Walk::Walk(std::span<const std::uint8_t> choices, const std::filesystem::path& directory)
     : choices_(choices), files_(directory) {
   files_.watch(form_);
-  for (const char* name : {"Command5", "Command15", "Command55", "FINEDOM", "ramesc", "ALTRORAM", "FINECA",
-                           "MENUVP", "menupok", "MENUDOM", "MENURAM", "menucat", "Command17"})
+  for (const char* name :
+       {"Command5", "Command15", "Command55", "FINEDOM", "ramesc", "ALTRORAM", "FINECA", "MENUVP", "menupok",
+        "MENUDOM", "MENURAM", "menucat", "Command17", "ALTRAPARTITAMAH"})
     leaves_.push_back(form_.find(name));
   for (const Control* control : form_.controls()) {
     const bool leaves = std::find(leaves_.begin(), leaves_.end(), control) != leaves_.end();
     if (control->sinks() && !leaves) buttons_.push_back(control);
   }
   host_.uniform().seed(pick(1 << 16));
+  for (const int file : {12, 13}) files_.harm(file, 1 + pick(127));  // somebody has played here before
   room_.Form_Load();
   done();
 }
 
 void Walk::enter(int game) {
-  const Control* entry = form_.find("commpr(" + std::to_string(game) + ")");
-  require(entry != nullptr, "a game has a name, and no entry in the main menu");
-  click(placeIn(*entry));
+  entry_ = form_.find("commpr(" + std::to_string(game) + ")");
+  require(entry_ != nullptr, "a game has a name, and no entry in the main menu");
+  click(placeIn(*entry_));
+  const auto other = [](const Control* button) { return button->name().base == "commpr"; };
+  std::copy_if(buttons_.begin(), buttons_.end(), std::back_inserter(leaves_), other);
+  std::erase_if(buttons_, other);
 }
 
 void Walk::play() {
   while (!choices_.empty()) step();
+}
+
+Reached Walk::reached() const {
+  Reached all = invariants_.reached();
+  all.merge(Reached(files_.reached()));
+  return all;
 }
 
 int Walk::pick(int n) {
@@ -42,6 +53,8 @@ int Walk::pick(int n) {
 }
 
 void Walk::step() {
+  if (pick(256) == 0 && pick(4) == 0) sense_ = 8 * pick(3);
+  if (pick(16) < sense_) return playOn();
   switch (pick(16)) {
     case 0: move(anyPlace()); break;
     case 1: move(middleOfSomething()); break;
@@ -52,19 +65,30 @@ void Walk::step() {
       if (pick(16) == 0) resize();
       break;
     case 6:
-      if (pick(8) == 0) files_.harm(pick(16), pick(256));
+      if (pick(32) == 0) files_.harm(pick(16), pick(256));
       break;
     default: click(middleOfSomething()); break;
   }
 }
 
+/// With no other button down, which would hold the mouse.
+void Walk::playOn() {
+  form_.mouseLost();
+  const bool astray = entry_ != nullptr && entry_->onView();
+  click(middleOfOne(astray ? Row{entry_} : player_.moves()));
+}
+
 Point Walk::middleOfSomething() {
-  const auto& choice = pick(512) == 0 ? leaves_ : buttons_;
-  onView_.clear();
-  std::copy_if(choice.begin(), choice.end(), std::back_inserter(onView_),
+  const Row& choice = pick(1024) == 0 ? leaves_ : buttons_;
+  Row onView;
+  std::copy_if(choice.begin(), choice.end(), std::back_inserter(onView),
                [](const Control* control) { return control->onView(); });
-  if (onView_.empty()) return anyPlace();
-  const Control& control = *onView_[static_cast<std::size_t>(pick(static_cast<int>(onView_.size())))];
+  return middleOfOne(onView);
+}
+
+Point Walk::middleOfOne(const Row& controls) {
+  if (controls.empty()) return anyPlace();
+  const Control& control = *controls[static_cast<std::size_t>(pick(static_cast<int>(controls.size())))];
   return control.origin() + Point{control.Width / 2, control.Height / 2};
 }
 

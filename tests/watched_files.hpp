@@ -3,6 +3,7 @@
 #include <filesystem>
 
 #include "host/data_directory.hpp"
+#include "invariants.hpp"
 #include "toolkit/form.hpp"
 
 namespace tombolario {
@@ -20,7 +21,8 @@ class WatchedFiles : public DataFiles {
 
   /// Something happens to a file behind the room's back; kind and size are any numbers.
   void harm(int kind, int size);
-  long saves() const { return saves_; }
+  /// How often a game was stored in each of the files, and one of them taken up.
+  const Reached& reached() const { return reached_; }
 
  private:
   void checkNumbers(const std::string& name, std::span<const std::int16_t> numbers) const;
@@ -28,7 +30,7 @@ class WatchedFiles : public DataFiles {
   std::filesystem::path directory_;
   DataDirectory files_;
   Form* room_ = nullptr;
-  long saves_ = 0;
+  Reached reached_;
 };
 
 }  // namespace tombolario

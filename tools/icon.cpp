@@ -15,7 +15,7 @@ using namespace tombolario;
 
 constexpr double kWhole = 1;
 /// What of an icon is safe where a phone cuts its own shape out of it: a circle of 80% of the side.
-constexpr double kWithAir = 0.66;
+constexpr double kWithAir = 0.62;
 
 using Surface = Owned<cairo_surface_t>;
 

@@ -55,7 +55,6 @@ void Form::mouseDown(MouseButton button) {
 
 void Form::mouseLost() {
   armed_ = nullptr;
-  updateSunken();
   for (unsigned button = 0; held_ != 0; ++button) mouseUp(static_cast<MouseButton>(button));
 }
 

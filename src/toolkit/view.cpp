@@ -44,11 +44,15 @@ void View::place(double left, double top) {
   form_.redraw();
 }
 
-void View::mouseAt(double x, double y) {
+Point View::placeInRoom(double x, double y) const {
   const auto twips = [this](double at, int margin) {
     return static_cast<int>(std::floor((at - margin) / scale_ * kTwipsPerPixel));
   };
-  const Point place{twips(x, marginX_), twips(y, marginY_)};
+  return {twips(x, marginX_), twips(y, marginY_)};
+}
+
+void View::mouseAt(double x, double y) {
+  const Point place = placeInRoom(x, y);
   if (place == mouse_) return;
   mouse_ = place;
   form_.mouseMove(place);

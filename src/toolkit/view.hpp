@@ -24,6 +24,8 @@ class View {
   double scale() const { return scale_; }
   int marginX() const { return marginX_; }  ///< left of the room
   int marginY() const { return marginY_; }  ///< above it
+  /// In twips, maybe outside the room.
+  Point placeInRoom(double x, double y) const;
 
   /// The mouse is there, maybe outside the room. A place that it is at already is no move: a window tells the
   /// place with every press and release, too.

@@ -34,6 +34,7 @@ mergeInto(LibraryManager.library, {
   },
   canvas_free__deps: ['$contexts'],
   canvas_free: function (canvas) {
+    contexts[canvas].canvas.width = 0; // Some browsers have little memory for canvases, and give it back late.
     contexts[canvas] = null;
   },
   canvas_start_at__deps: ['$contextOf'],

@@ -13,7 +13,7 @@ import sys
 
 TEMPLATE = pathlib.Path(__file__).with_name('guide.html')
 INLINE = [(r'`(.+?)`', r'<code>\1</code>'), (r'\*\*(.+?)\*\*', r'<b>\1</b>'),
-          (r'&lt;(https?://.+?)&gt;', r'<a href="\1">\1</a>'), (r'\[(.+?)\]\((.+?)\)', r'<a href="\2">\1</a>')]
+          (r'&lt;(https?://.+?)&gt;', r'\1'), (r'\[(.+?)\]\((.+?)\)', r'<a href="\2">\1</a>')]
 TABLE = re.compile(r'\|[-:| ]+\|$')
 
 
@@ -31,8 +31,10 @@ def anchor(title):
 def heading(line):
     """Each game has the same headings of the third rank: nothing leads to them."""
     marks, title = line.split(' ', 1)
-    place = f' id="{anchor(title)}"' if marks == '##' else ''
-    return f'<h{len(marks)}{place}>{inline(title)}</h{len(marks)}>'
+    rank = f'h{len(marks)}'
+    if rank != 'h2':
+        return f'<{rank}>{inline(title)}</{rank}>'
+    return f'<h2 id="{anchor(title)}"><a href="#" title="Torna su" aria-label="Torna su">↑</a>{inline(title)}</h2>'
 
 
 def list_of(lines):

@@ -1,6 +1,8 @@
 // Keeps the page, a version whole or not at all, and opens it from there whatever the network does.
 const files = @FILES@; // of this version, with their digests
-const kept = 'tombolario @KEPT@';
+// Others on this server keep things, too, another room among them.
+const ours = `tombolario ${registration.scope} `;
+const kept = `${ours}@KEPT@`;
 
 // What the page has just asked for is not asked for again, unless it was of another version.
 async function get(file) {
@@ -20,16 +22,23 @@ async function keep() {
   await self.skipWaiting();
 }
 
+async function keptVersions() {
+  return (await caches.keys()).filter((name) => name.startsWith(ours));
+}
+
 // A page that is just opening may still want the version before.
 async function forget() {
-  const versions = await caches.keys();
+  const versions = await keptVersions();
   await Promise.all(versions.slice(0, -2).map((version) => caches.delete(version)));
 }
 
 async function find(request) {
   const file = new URL(request.url).pathname.slice(new URL(registration.scope).pathname.length);
   const name = file === '' || file === 'index.html' ? './' : file;
-  return (await (await caches.open(kept)).match(name)) ?? caches.match(request);
+  for (const version of new Set([kept, ...await keptVersions()])) {
+    const response = await (await caches.open(version)).match(name);
+    if (response) return response;
+  }
 }
 
 self.addEventListener('install', (event) => event.waitUntil(keep()));

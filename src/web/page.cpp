@@ -85,6 +85,13 @@ void Page::pointer(double x, double y, unsigned buttons) {
   showCursor();
 }
 
+Page::Press Page::pressAt(double x, double y) {
+  const Control* control = form_.at(view_.placeInRoom(x, y));
+  if (control == nullptr || !control->operable()) return Press::Nothing;
+  if (control->onMouseDown) return control->onMouseUp ? Press::CanBeTakenBack : Press::ActsAtOnce;
+  return control->sinks() ? Press::CanBeTakenBack : Press::Nothing;
+}
+
 void Page::lose() {
   form_.mouseLost();
   buttons_ = 0;
@@ -133,6 +140,7 @@ EMSCRIPTEN_KEEPALIVE void page_enlarge(Page* page, double times, double fromX, d
   page->enlarge(times, {fromX, fromY}, {toX, toY});
 }
 EMSCRIPTEN_KEEPALIVE bool page_enlarged(const Page* page) { return page->enlarged(); }
+EMSCRIPTEN_KEEPALIVE Page::Press page_press_at(Page* page, double x, double y) { return page->pressAt(x, y); }
 EMSCRIPTEN_KEEPALIVE void page_pointer(Page* page, double x, double y, unsigned buttons) {
   page->pointer(x, y, buttons);
 }

@@ -26,6 +26,9 @@ class Page {
   void pointerInRoom(double x, double y, unsigned buttons) {
     pointer(view_.marginX() + x * view_.scale(), view_.marginY() + y * view_.scale(), buttons);
   }
+  /// What a press at a place would do.
+  enum class Press { Nothing, CanBeTakenBack, ActsAtOnce };
+  Press pressAt(double x, double y);
   /// What is held down is released elsewhere.
   void lose();
   bool needsDrawing() const { return form_.needsDrawing(); }

@@ -64,6 +64,10 @@ function play(room, reading) {
     },
     enlarge,
     enlarged: () => room._page_enlarged(page),
+    pressAt({x, y}) {
+      const density = canvas.width / canvas.clientWidth;
+      return ['nothing', 'can be taken back', 'acts at once'][room._page_press_at(page, x * density, y * density)];
+    },
   });
 
   function cancel(event) {
@@ -128,6 +132,6 @@ try {
   performance.mark('room');
   navigator.serviceWorker?.register('offline.js').catch(() => {});
 } catch (error) {
-  document.body.textContent = `Tombolario: la pagina non si apre: ${error.message}`;
+  document.body.classList.add('failed');
   throw error;
 }

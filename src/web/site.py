@@ -14,8 +14,6 @@ import sys
 
 OPEN = ('index.html', 'guida.html', 'manifest.json', 'icon-48.png', 'icon-192.png', 'icon-512.png', 'icon-maskable.png',
         'apple-touch-icon.png', 'licences.txt', 'offline.js')
-# A system takes its icon when it installs the page; licences need not be read without a network.
-NOT_KEPT = ('offline.js', 'icon-512.png', 'icon-maskable.png', 'apple-touch-icon.png', 'licences.txt')
 POLICY = ("default-src 'none'; script-src 'self' 'wasm-unsafe-eval'; style-src {styles}; font-src 'self'; "
           "img-src 'self' data:; connect-src 'self'; manifest-src 'self'; worker-src 'self'; "
           "base-uri 'none'; form-action 'none'")
@@ -47,8 +45,9 @@ def lay_out(files):
         site[name] = fill(site[name], POLICY=POLICY.format(styles=' '.join(styles)))
     site |= {f'{version}/{name}': content for name, content in parts.items()}
 
+    # A browser keeps icons by itself; licences need not be read without a network.
     digests = {'./' if name == 'index.html' else name: digest(content) for name, content in site.items()
-               if name not in NOT_KEPT}
+               if name != 'offline.js' and not name.endswith(('.png', '.txt'))}
     site['offline.js'] = fill(site['offline.js'], FILES=json.dumps(digests, indent=2), KEPT=name_of(digests))
     return site
 

@@ -1,5 +1,5 @@
 // Fingers on the room: one of them presses, two enlarge and move. A finger that comes down may be the first of
-// two, so it presses only when it is lifted, moved away or held.
+// two, so it presses only when it is lifted, or moved away or held where a press can still be taken back.
 
 const HELD = 500; // milliseconds
 const MOVED = 12; // units of the style sheets
@@ -20,7 +20,7 @@ export function openTouch(room) {
 
   function wait(event) {
     waiting = event;
-    timer = setTimeout(press, HELD);
+    timer = setTimeout(pressSoon, HELD);
   }
 
   function forget() {
@@ -32,6 +32,10 @@ export function openTouch(room) {
     const event = waiting;
     forget();
     room.press(event);
+  }
+
+  function pressSoon() {
+    if (room.pressAt(place(waiting)) !== 'acts at once') press();
   }
 
   function down(event) {
@@ -56,7 +60,7 @@ export function openTouch(room) {
       if (d) room.enlarge(apart(c, d) / Math.max(1, apart(a, b)), middle(a, b), middle(c, d));
       return;
     }
-    if (waiting && apart(place(waiting), place(event)) > MOVED) press();
+    if (waiting && apart(place(waiting), place(event)) > MOVED) pressSoon();
     if (!waiting) room.press(event);
   }
 
@@ -64,17 +68,17 @@ export function openTouch(room) {
     fingers.delete(event.pointerId);
     if (two) return;
     const tapped = waiting !== null;
-    if (tapped && room.enlarged() && lastTap && event.timeStamp - lastTap.timeStamp < AGAIN &&
+    if (tapped && apart(place(waiting), place(event)) > MOVED) return forget();
+    const idle = tapped && room.pressAt(place(waiting)) === 'nothing';
+    if (idle && room.enlarged() && lastTap && event.timeStamp - lastTap.timeStamp < AGAIN &&
         apart(place(lastTap), place(event)) < NEAR) {
       forget();
       lastTap = null;
       room.enlarge(0, place(event), place(event));
       return;
     }
-    if (tapped) {
-      press();
-      lastTap = event;
-    }
+    lastTap = idle ? event : null;
+    if (tapped) press();
     room.press(event);
   }
 

@@ -1,9 +1,11 @@
-"""A page on a server of its own, and a headless browser that shows it."""
+"""A page on a server of its own, and the browsers that show it."""
 
-import functools
 import json
 import pathlib
+import socket
+import subprocess
 import sys
+import tempfile
 import threading
 import time
 
@@ -14,7 +16,8 @@ sys.path.insert(0, str(pathlib.Path(__file__).resolve().parents[2] / 'script'))
 import serve  # noqa: E402
 
 PATIENCE = 10  # seconds
-BITS = {'left': 1, 'right': 2, 'middle': 4, 'back': 8, 'forward': 16}
+BUTTONS = {'left': 0, 'middle': 1, 'right': 2, 'back': 3, 'forward': 4}
+KEYS = {'Tab': '\ue004', 'Enter': '\ue007', ' ': ' ', 'ArrowUp': '\ue013', 'ArrowDown': '\ue015'}
 
 
 class Site:
@@ -48,8 +51,24 @@ class Site:
         self.server.server_close()
 
 
+def to(x, y):
+    return {'type': 'pointerMove', 'x': round(x), 'y': round(y)}
+
+
+def down(button='left'):
+    return {'type': 'pointerDown', 'button': BUTTONS[button]}
+
+
+def up(button='left'):
+    return {'type': 'pointerUp', 'button': BUTTONS[button]}
+
+
+def pause(milliseconds=0):
+    return {'type': 'pause', 'duration': milliseconds}
+
+
 class Viewer:
-    """What any browser does with the page."""
+    """What any browser does with the page. Places are in CSS pixels."""
 
     def open(self, site, file=''):
         self.execute_script('performance.clearMarks()')
@@ -67,22 +86,50 @@ class Viewer:
     def keep(self, versions=1):
         """Waits until the browser keeps so many versions of the page, and answers from the last."""
         self.wait("""return navigator.serviceWorker.ready.then(async ({installing, waiting, active}) =>
-            !installing && !waiting && active.state == 'activated' && (await caches.keys()).length == %d)""" % versions)
+            !installing && !waiting && active.state == 'activated' &&
+            (await caches.keys()).filter((name) => name.startsWith('tombolario ')).length == %d)""" % versions)
 
     def answer(self, line):
         return self.execute_script('return room.answer(arguments[0])', line)
 
+    def draw(self):
+        self.execute_script('room.draw()')
+
     def room(self):
-        """Where the room lies, left and top in CSS pixels, and how large a pixel of it is."""
+        """Where the room lies, and how large a pixel of it is."""
         return self.execute_script('''
             const {e, f, a} = new DOMMatrix(getComputedStyle(document.querySelector('main')).transform);
             return [e, f, a];''')
 
     def where(self, name):
-        """The middle of a control in CSS pixels, at the present size of the window."""
+        """The middle of a control, at the present size of the window."""
         x, y = self.execute_script('return room.centre(arguments[0])', name)
         left, top, scale = self.room()
         return left + x / 15 * scale, top + y / 15 * scale
+
+    def point(self, *fingers, kind='touch'):
+        """Each does what its list says, all at once, step by step."""
+        self.perform([{'type': 'pointer', 'id': f'{kind}{finger}', 'parameters': {'pointerType': kind},
+                       'actions': actions} for finger, actions in enumerate(fingers)])
+
+    def mouse(self, *actions):
+        self.point(list(actions), kind='mouse')
+
+    def press(self, x, y, button='left'):
+        self.mouse(to(x, y), down(button), up(button))
+
+    def tap(self, x, y):
+        self.point([to(x, y), down(), up()])
+
+    def pinch(self, x, y, reach):
+        """Two fingers go so far apart; the first slides a little, and the second is late."""
+        self.point(*[[to(x + way, y + way), *begin, *(to(x + way * part / 10, y + way * part / 10)
+                                                      for part in range(10, reach + 1, 5)), up()]
+                     for way, begin in ((-10, [down(), to(x, y - 10), pause(600), pause()]), (10, [*[pause()] * 3, down()]))])
+
+    def key(self, key):
+        self.perform([{'type': 'key', 'id': 'keys', 'actions': [{'type': kind, 'value': KEYS[key]}
+                                                                for kind in ('keyDown', 'keyUp')]}])
 
     def walk_to(self, name):
         """By the tabulator to what is called so, or begins so."""
@@ -93,80 +140,40 @@ class Viewer:
             self.key('Tab')
         raise AssertionError(f'no way leads to {name}')
 
-    def draw(self):
-        self.execute_script('room.draw()')
-
     def news(self):
         return self.execute_script('return document.querySelector("#news").textContent')
 
+    def pixel(self, x, y):
+        """The colour of a pixel of the canvas, as RRGGBB, once what has changed is drawn."""
+        return self.execute_script('''
+            const [x, y] = arguments;
+            return new Promise((done) => requestAnimationFrame(() => requestAnimationFrame(() => {
+              const [r, g, b] = document.querySelector('canvas').getContext('2d').getImageData(x, y, 1, 1).data;
+              done((r * 65536 + g * 256 + b).toString(16).padStart(6, '0'));
+            })));''', x, y)
 
-class Browser(Viewer, webdriver.Chrome):
+
+class Chromium(Viewer, webdriver.Chrome):
     def __init__(self, density=1):
         """With that many device pixels to a CSS pixel."""
         options = webdriver.ChromeOptions()
-        options.page_load_strategy = 'none'  # a page that waits for a file is to be seen, too
         options.binary_location = '/usr/bin/chromium'
+        options.page_load_strategy = 'none'  # a page that waits for a file is to be seen, too
         for argument in ('headless=new', 'no-sandbox', 'disable-gpu', 'disable-dev-shm-usage', 'disable-quic',
                          'no-first-run', 'disable-background-networking', 'disable-component-update',
                          'disable-sync', f'force-device-scale-factor={density}'):
             options.add_argument('--' + argument)
-        options.set_capability('goog:loggingPrefs', {'browser': 'ALL', 'performance': 'ALL'})
+        options.set_capability('goog:loggingPrefs', {'browser': 'ALL'})
         super().__init__(options=options, service=Service('/usr/bin/chromedriver'))
-        self.buttons = 0
-        self.at = (0, 0)
         self.resize(880, 573)
 
     def resize(self, width, height, density=0):
-        """To that size in CSS pixels, and with that many device pixels to one of them instead of its own."""
+        """To that size, and with that many device pixels to a CSS pixel instead of its own."""
         self.execute_cdp_cmd('Emulation.setDeviceMetricsOverride', {
             'width': width, 'height': height, 'deviceScaleFactor': density, 'mobile': False})
 
-    def _mouse(self, kind, button='none'):
-        x, y = self.at
-        self.execute_cdp_cmd('Input.dispatchMouseEvent', {
-            'type': kind, 'x': x, 'y': y, 'button': button, 'buttons': self.buttons, 'clickCount': 1})
-
-    def move(self, x, y):
-        """To a place in CSS pixels."""
-        self.at = (x, y)
-        self._mouse('mouseMoved')
-
-    def down(self, button='left'):
-        self.buttons |= BITS[button]
-        self._mouse('mousePressed', button)
-
-    def up(self, button='left'):
-        self.buttons &= ~BITS[button]
-        self._mouse('mouseReleased', button)
-
-    def press(self, x, y, button='left'):
-        self.move(x, y)
-        self.down(button)
-        self.up(button)
-
-    def tap(self, x, y, end='touchEnd'):
-        touch = functools.partial(self.execute_cdp_cmd, 'Input.dispatchTouchEvent')
-        touch({'type': 'touchStart', 'touchPoints': [{'x': x, 'y': y}]})
-        touch({'type': end, 'touchPoints': []})
-
-    def pinch(self, x, y, reach):
-        """Two fingers, one after the other, go apart so far from that place."""
-        def touch(kind, *fingers):
-            points = [{'x': x + way, 'y': y + way, 'id': finger} for finger, way in enumerate(fingers)]
-            self.execute_cdp_cmd('Input.dispatchTouchEvent', {'type': kind, 'touchPoints': points})
-        touch('touchStart', -10)
-        time.sleep(0.35)
-        touch('touchStart', -10, 10)
-        for way in range(10, reach + 1, 5):
-            touch('touchMove', -way, way)
-        touch('touchEnd', -reach)
-        touch('touchEnd')
-
-    def key(self, key):
-        code = {'Tab': 9, 'Enter': 13, ' ': 32, 'ArrowUp': 38, 'ArrowDown': 40}[key]
-        for kind in 'rawKeyDown', 'keyUp':
-            self.execute_cdp_cmd('Input.dispatchKeyEvent', {
-                'type': kind, 'key': key, 'windowsVirtualKeyCode': code})
+    def perform(self, sources):
+        self.execute('actions', {'actions': sources})
 
     def tree(self):
         """What a screen reader is given: role, name and value of all that is in the accessibility tree."""
@@ -174,24 +181,64 @@ class Browser(Viewer, webdriver.Chrome):
         return [tuple(node.get(part, {}).get('value') for part in ('role', 'name', 'value'))
                 for node in nodes if not node['ignored']]
 
-    def pixel(self, x, y):
-        """The colour of a pixel of the canvas, as RRGGBB, once what has changed is drawn."""
-        return self.execute_async_script('''
-            const [x, y, done] = arguments;
-            const canvas = document.querySelector('canvas');
-            requestAnimationFrame(() => requestAnimationFrame(() => {
-              const [r, g, b, a] = canvas.getContext('2d').getImageData(x, y, 1, 1).data;
-              done(a ? (r * 65536 + g * 256 + b).toString(16).padStart(6, '0') : 'none');
-            }));''', x, y)
-
-    def requests(self):
-        """The addresses that anything was asked of since the last call."""
-        events = [json.loads(entry['message'])['message'] for entry in self.get_log('performance')]
-        addresses = [event['params']['request']['url'] for event in events
-                     if event['method'] == 'Network.requestWillBeSent']
-        return [address for address in addresses if not address.startswith('data:')]
-
     def complaints(self):
-        """All but advice how the test should read pixels."""
+        """All but advice how the test should read pixels, and icons that are not to be had without a network."""
         return [entry['message'] for entry in self.get_log('browser')
-                if entry['level'] in ('WARNING', 'SEVERE') and entry['source'] != 'rendering']
+                if entry['level'] in ('WARNING', 'SEVERE') and entry['source'] != 'rendering' and
+                'from the Manifest' not in entry['message']]
+
+
+class Firefox(Viewer):
+    """By the protocol that it speaks itself: Debian has no driver of it."""
+
+    def __init__(self):
+        self.profile = tempfile.TemporaryDirectory()
+        place = pathlib.Path(self.profile.name)
+        (place / 'user.js').write_text('user_pref("marionette.port", 0);\n')
+        self.process = subprocess.Popen(['firefox-esr', '--headless', '--no-remote', '--marionette', '--profile', place],
+                                        stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
+        port = place / 'MarionetteActivePort'
+        end = time.monotonic() + 6 * PATIENCE
+        while not (port.exists() and port.read_text()):
+            if time.monotonic() > end:
+                raise AssertionError('Firefox does not start')
+            time.sleep(0.05)
+        self.socket = socket.create_connection(('127.0.0.1', int(port.read_text())))
+        self.stream = self.socket.makefile('rb')
+        self.receive()
+        self.do('NewSession', pageLoadStrategy='none')
+
+    def receive(self):
+        length = b''
+        while not length.endswith(b':'):
+            length += self.stream.read(1)
+        return json.loads(self.stream.read(int(length[:-1])))
+
+    def do(self, command, **parameters):
+        message = json.dumps([0, 1, f'WebDriver:{command}', parameters]).encode()
+        self.socket.sendall(str(len(message)).encode() + b':' + message)
+        _, _, error, result = self.receive()
+        if error:
+            raise AssertionError(error['message'])
+        return result.get('value')
+
+    def quit(self):
+        self.process.terminate()
+        self.process.wait(PATIENCE)
+        self.stream.close()
+        self.socket.close()
+        self.profile.cleanup()
+
+    def get(self, address):
+        self.do('Navigate', url=address)
+
+    def execute_script(self, script, *arguments):
+        return self.do('ExecuteScript', script=script, args=arguments, sandbox=None)
+
+    def resize(self, width, height):
+        self.do('SetWindowRect', width=width, height=height)
+        inner = self.execute_script('return [innerWidth, innerHeight]')
+        self.do('SetWindowRect', width=2 * width - inner[0], height=2 * height - inner[1])
+
+    def perform(self, sources):
+        self.do('PerformActions', actions=sources)
