@@ -1,4 +1,4 @@
-"""Plays the transcripts in the documents again: transcripts_test.py DRIVER DOCUMENT..."""
+"""Plays the transcripts in the documents again: documents_test.py DRIVER DOCUMENT..."""
 
 import pathlib
 import re
