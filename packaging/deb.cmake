@@ -8,12 +8,10 @@ solitaire.
 
 The window can be any size. All words in it are Italian.")
 set(CPACK_DEBIAN_PACKAGE_SECTION games)
-# Whoever signed the latest release.
-string(REGEX MATCH "\n -- ([^\n]*>)  " signature "${changelog}")
-set(CPACK_DEBIAN_PACKAGE_MAINTAINER "${CMAKE_MATCH_1}")
+set(CPACK_DEBIAN_PACKAGE_MAINTAINER "${RELEASE_SIGNATURE}")
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
-set(CPACK_DEBIAN_PACKAGE_RECOMMENDS "fonts-liberation, fonts-roboto-unhinted")
-set(CPACK_DEBIAN_PACKAGE_SUGGESTS xdg-utils) # opens the address in the main menu
+# The last opens the addresses in the main menu, and the guide.
+set(CPACK_DEBIAN_PACKAGE_RECOMMENDS "fonts-liberation, fonts-roboto-unhinted, xdg-utils")
 set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
 set(CPACK_DEBIAN_COMPRESSION_TYPE xz)
 set(CPACK_STRIP_FILES ON)

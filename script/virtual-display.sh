@@ -67,9 +67,11 @@ click() {
   xdotool click 1
 }
 
-# The colour of a pixel of the screen, as rrggbb.
+# The colour of a pixel of the screen, as rrggbb. A picture of it has a head of 54 bytes; blue comes first.
 pixel() {
-  import -silent -window root -crop "1x1+$1+$2" -depth 8 rgb:- | od -An -tx1 | tr -d ' \n'
+  local blue green red
+  read -r blue green red < <(maim --hidecursor --format=bmp --geometry="1x1+$1+$2" | od -An -tx1 -j54 -N3)
+  printf '%s' "$red$green$blue"
 }
 
 # The colour at a place in the room.

@@ -15,12 +15,14 @@ diff - <(cd -- "$prefix" && find . -type f -printf '%m %P\n' | sort -k 2) <<'EOF
 755 bin/tombolario
 755 libexec/tombolario/tombolario
 644 share/applications/tombolario.desktop
+644 share/doc-base/tombolario
 644 share/doc/tombolario/changelog.gz
 644 share/doc/tombolario/copyright
+644 share/doc/tombolario/guida.html
 644 share/icons/hicolor/scalable/apps/tombolario.svg
 644 share/man/it/man6/tombolario.6.gz
 644 share/man/man6/tombolario.6.gz
-644 share/metainfo/example.tombolario.tombolario.metainfo.xml
+644 share/metainfo/org.example.tombolario.metainfo.xml
 EOF
 
 load_game=(3990 1690) # Command9
@@ -48,6 +50,8 @@ load_saved_game() {
   click "${load_game[@]}"
   must "the saved game" shows ffff80 "${change_cards[@]}"
 }
+
+[[ -s $(sed -n 's/^Exec=xdg-open "\(.*\)"$/\1/p' "$prefix/share/applications/tombolario.desktop") ]] || die "no guide to open"
 
 open_screen
 open_installed

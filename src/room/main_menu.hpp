@@ -5,6 +5,7 @@
 
 #include "host/host.hpp"
 #include "pictures/catalogue.hpp"
+#include "room/credit.hpp"
 #include "toolkit/control_array.hpp"
 #include "toolkit/controls.hpp"
 #include "toolkit/form.hpp"
@@ -16,7 +17,6 @@ namespace tombolario {
 inline constexpr const char* kMailAddress = "info@tombolario.example";
 inline constexpr const char* kWebAddress = "https://www.tombolario.example/";
 inline constexpr const char* kThanks = "GRAZIE A WWW.TOMBOLARIO.EXAMPLE";
-inline constexpr const char* kCredit = "TOMBOLARIO - SEI GIOCHI IN UNA STANZA - 22 NOVEMBRE 2026";
 
 /// `Frameprincipale`, the screen that opens each game, with the two links. Three of its labels also keep
 /// the cursors of the room.
