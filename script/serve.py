@@ -30,6 +30,10 @@ class Handler(http.server.SimpleHTTPRequestHandler):
         except ConnectionError:
             pass  # The browser has gone.
 
+    def end_headers(self):
+        self.send_header('X-Content-Type-Options', 'nosniff')
+        super().end_headers()
+
     def send_head(self):
         root = pathlib.Path(self.directory)
         file = pathlib.Path(self.translate_path(self.path))
@@ -47,7 +51,6 @@ class Handler(http.server.SimpleHTTPRequestHandler):
         # The address of what lies deeper changes with what it holds.
         self.send_header('Cache-Control', 'no-cache' if file.parent == root else 'max-age=31536000, immutable')
         self.send_header('Content-Security-Policy', f"{policy}; frame-ancestors 'none'")
-        self.send_header('X-Content-Type-Options', 'nosniff')
         if known:
             self.end_headers()
             return None

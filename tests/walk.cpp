@@ -19,7 +19,7 @@ Walk::Walk(std::span<const std::uint8_t> choices, const std::filesystem::path& d
     if (control->sinks() && !leaves) buttons_.push_back(control);
   }
   host_.uniform().seed(pick(1 << 16));
-  for (const int file : {12, 13}) files_.harm(file, 1 + pick(127));  // somebody has played here before
+  for (const int file : {14, 15}) files_.harm(file, 1 + pick(127));  // somebody has played here before
   room_.Form_Load();
   done();
 }

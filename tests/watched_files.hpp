@@ -14,12 +14,14 @@ class WatchedFiles : public DataFiles {
  public:
   explicit WatchedFiles(std::filesystem::path directory);
 
-  /// The room whose files these are.
+  /// The room whose files these are, if there is one.
   void watch(Form& room) { room_ = &room; }
   bool read(const std::string& name, std::span<std::int16_t> numbers) override;
   bool write(const std::string& name, std::span<const std::int16_t> numbers) override;
 
-  /// Something happens to a file behind the room's back; kind and size are any numbers.
+  /// Something happens to a file behind the room's back; kind and size are any numbers. There are so many
+  /// kinds for each of the two files: the even kinds are videopoker.dat's.
+  static constexpr int kHarms = 8;
   void harm(int kind, int size);
   /// How often a game was stored in each of the files, and one of them taken up.
   const Reached& reached() const { return reached_; }
