@@ -15,23 +15,6 @@ constexpr Size kWindow{792, 573};
 
 constexpr double kScales[] = {0.4, 1, 1.25, 1.5, 2, 3.3};
 
-TEST(Painter, ClipsAndMovesTheOriginUntilLeft) {
-  Sheet canvas({20, 20}, 1);
-  canvas.painter.fillRect({0, 0, 20, 20}, kWhite);
-  canvas.painter.enter({5, 5, 10, 10});
-  canvas.painter.enter({5, 0, 10, 10});
-  canvas.painter.fillRect({0, 0, 10, 3}, kRed);
-  canvas.painter.leave();
-  canvas.painter.leave();
-  canvas.painter.fillRect({0, 19, 1, 1}, kBlue);
-  EXPECT_EQ(canvas.pixel(10, 5), kRed);
-  EXPECT_EQ(canvas.pixel(14, 7), kRed);
-  EXPECT_EQ(canvas.pixel(15, 5), kWhite);
-  EXPECT_EQ(canvas.pixel(9, 5), kWhite);
-  EXPECT_EQ(canvas.pixel(10, 8), kWhite);
-  EXPECT_EQ(canvas.pixel(0, 19), kBlue);
-}
-
 TEST(Painter, TextGrowsWithTheScaleAlone) {
   const Font font{.face = Face::Heavy, .points = 12};
   Sheet small(kWindow, 1);

@@ -3,6 +3,7 @@
 #include <array>
 
 #include "pictures/catalogue.hpp"
+#include "pictures/icon.hpp"
 #include "recording_canvas.hpp"
 #include "toolkit/controls.hpp"
 #include "toolkit/form.hpp"
@@ -100,8 +101,12 @@ TEST_F(Painting, OfWordsAndLines) {
   Frame single{form, "single", {900, 0, 600, 600}, {.fore = kRed, .border = Border::Single}, "off"};
   single.Enabled = false;
   Label hidden{form, "hidden", {0, 0, 900, 900}, "hidden", {.visible = false}};
-  Label left{form, "left", {0, 600, 900, 255}, "left", {.align = Align::Left}};
-  Label right{form, "right", {0, 840, 900, 255}, "right", {.align = Align::Right, .border = Border::Single}};
+  Label left{form, "left", {0, 600, 900, 255}, "left", {.back = SystemColour::ToolTip, .align = Align::Left}};
+  Label right{form,
+              "right",
+              {0, 840, 900, 255},
+              "right",
+              {.back = SystemColour::Window, .align = Align::Right, .border = Border::Single}};
   Label broken{form, "broken", {0, 1110, 900, 825}, "three lines of words", {.border = Border::Etched}};
   Label written{form, "written", {900, 600, 1200, 555}, "one\ntwo of them", {.border = Border::Sunken}};
   Label close{form, "close", {1500, 0, 900, 900}, "noon of once noon", {}};
@@ -110,7 +115,7 @@ TEST_F(Painting, OfWordsAndLines) {
   Label off{form, "off", {1500, 1200, 600, 225}, "off", {.fore = kWhite, .font = {.bold = true}}};
   off.Enabled = false;
   TextBox text{form, "text", {2100, 0, 900, 900}, "first line\nsecond\n", {.align = Align::Left}};
-  Shape shape{form, "shape", {2100, 900, 450, 300}, 5, {.back = kRed, .fore = kBlue}};
+  Shape shape{form, "shape", {2100, 900, 450, 300}, 5, {.back = SystemColour::ActiveBorder, .fore = kBlue}};
   Line line{form, "line", {2100, 1215, 900, 15}, kRed};
   paint("words");
 }
@@ -125,7 +130,7 @@ TEST_F(Painting, OfWhatLiesTogether) {
              c = label(form, "c", {765, 150, 300, 300}), d = label(form, "d", {150, 450, 300, 300}),
              e = label(form, "e", {450, 765, 300, 300}), f = label(form, "f", {150, 765, 285, 300}),
              g = label(form, "g", {735, 1050, 300, 300}), h = label(form, "h", {1050, 450, 300, 300}),
-             i = label(form, "i", {1365, 450, 150, 300}),
+             i = label(form, "i", {1365, 450, 150, 300}), j = label(form, "j", {0, 750, 135, 150}),
              inside = label(board, "inside", {300, 300, 300, 300});
   const auto gone = label(form, "gone", {1050, 750, 300, 300});
   gone->Visible = false;
@@ -138,13 +143,14 @@ TEST_F(Painting, OfPictures) {
     return std::make_unique<PictureBox>(form, name, Box{left, 0, (33 + more) * 15, (21 + more) * 15},
                                         Look{.back = kRed, .border = border, .picture = picture});
   };
-  const auto plain = box("plain", 0, Border::None, 3, kAll), fits = box("fits", 600, Border::None, 2, kDot),
-             bordered = box("bordered", 1200, Border::Single, 5, kDot),
+  const auto plain = box("plain", 0, Border::None, 3, kAll), fits = box("fits", 600, Border::None, 2, kAll),
+             bordered = box("bordered", 1200, Border::Single, 6, kDot),
              sunken = box("sunken", 1800, Border::Sunken, -10, kDot),
              empty = box("empty", 2400, Border::Etched, 0, {});
   Label onIt{*bordered, "onIt", {150, 150, 150, 150}, "", {.back = kBlue}};
+  PictureBox wide{form, "wide", {0, 1200, 525, 480}, {.picture = kAll}};
   Image own{form, "own", {0, 600, 180, 165}, kDot};
-  Image smaller{form, "smaller", {300, 600, 120, 60}, kDot};
+  Image smaller{form, "smaller", {300, 600, 150, 60}, kDot};
   Image narrow{form, "narrow", {450, 600, 75, 120}, kDot};
   Image high{form, "high", {1500, 600, 150, 135}, kDot};
   Image none{form, "none", {600, 600, 120, 60}, {}};
@@ -169,6 +175,9 @@ TEST_F(Painting, OfWhatIsPressed) {
   TileButton tile{group, "tile", {0, 0, 855, 495}, "", {.back = 0xD0D0D0, .picture = kAll}};
   TileButton offTile{group, "offTile", {840, 0, 645, 495}, "", {.back = 0xD0D0D0, .picture = kDot}};
   OptionButton on{group, "on", {0, 600, 900, 255}, "on", true, optionLook()};
+  Button upper{group, "upper", {0, 1500, 600, 165}, "much too long", buttonLook(kRed)};
+  Button middle{group, "middle", {0, 1665, 600, 165}, "low", buttonLook(kRed)};
+  Button lower{group, "lower", {0, 1830, 450, 165}, "aside", buttonLook(kRed)};
   Frame fellows{group, "fellows", {0, 900, 1500, 600}, {}};
   OptionButton chosen{fellows, "chosen", {0, 0, 900, 255}, "chosen", true, optionLook()};
   OptionButton free{fellows, "free", {0, 300, 900, 255}, "free", false, optionLook()};
@@ -230,8 +239,14 @@ TEST_F(Painting, OfAWindow) {
   look("the smallest window");
 }
 
-/// Each picture of the catalogue: its size and words, the words in it, and a digest of what it draws. One
-/// that differs is to be looked at, in docs/catalogue-*.png.
+std::string digestOf(const RecordingCanvas& canvas) {
+  std::uint32_t digest = 2166136261;
+  for (const char c : canvas.told()) digest = (digest ^ static_cast<unsigned char>(c)) * 16777619;
+  return std::to_string(digest);
+}
+
+/// Each picture of the catalogue: its size and words, the words in it, and a digest of what it draws; and of
+/// the icon. One that differs is to be looked at, in docs/catalogue-*.png.
 TEST(Pictures, AreThoseThatAreRecorded) {
   std::map<std::string, std::string> told;
   for (const PictureStore* store : pictures::catalogue()) {
@@ -240,17 +255,20 @@ TEST(Pictures, AreThoseThatAreRecorded) {
       const PictureId picture(*store, i);
       RecordingCanvas canvas;
       drawAlone(picture, canvas, 1.5);
-      std::uint32_t digest = 2166136261;
-      for (const char c : canvas.told()) digest = (digest ^ static_cast<unsigned char>(c)) * 16777619;
       const auto [width, height] = picture.size();
       lines += picture.name() + ' ' + std::to_string(width) + 'x' + std::to_string(height) + " \"" +
                picture.words() + '"';
       for (const std::string& text : canvas.texts()) lines += ' ' + text + ';';
-      lines += ' ' + std::to_string(digest) + '\n';
+      lines += ' ' + digestOf(canvas) + '\n';
       EXPECT_EQ(pictures::find(picture.name()), picture);
     }
     lines += "points at " + std::to_string(store->hotSpot.x) + ',' + std::to_string(store->hotSpot.y) + '\n';
   }
+  RecordingCanvas canvas;
+  PictureCache cache;
+  Painter painter(canvas, 1, cache);
+  pictures::drawIcon(painter);
+  told["icon"] = digestOf(canvas) + '\n';
   expectAsRecorded("pictures.txt", told);
 }
 

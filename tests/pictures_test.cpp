@@ -45,6 +45,8 @@ TEST(Pictures, AreNeverEmptyAndStayInTheirBox) {
     EXPECT_GT(std::set<Rgb>(pixels.begin(), pixels.end()).size(), 1U) << picture.name();
     const auto [width, height] = picture.size();
     Sheet canvas({width + 12, height + 12}, 1.5);
+    canvas.painter.enter({3, 3, 4, 4});
+    canvas.painter.leave();  // with nothing left of its bounds
     canvas.painter.fillRect({0, 0, width + 12.0, height + 12.0}, kBeyond);
     picture.draw(canvas.painter);
     for (int y = 0; y < canvas.height(); ++y) {

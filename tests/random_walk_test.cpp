@@ -19,6 +19,8 @@ TEST_P(RandomWalk, NeverLeavesTheRulesOfTheRoom) {
   std::mt19937 engine(20261123);
   const TemporaryDirectory directory;
   Reached reached;
+  const int nextFile = dup(0);
+  close(nextFile);
   for (int room = 0; room < 5; ++room) {
     std::vector<std::uint8_t> choices(50'000);
     for (std::uint8_t& choice : choices) choice = static_cast<std::uint8_t>(engine());
@@ -28,6 +30,8 @@ TEST_P(RandomWalk, NeverLeavesTheRulesOfTheRoom) {
     EXPECT_GT(walk.events(), 15'000);
     for (const auto& [end, times] : walk.reached()) reached[end] += times;
   }
+  EXPECT_EQ(dup(0), nextFile) << "a file is still open";
+  close(nextFile);
   for (const char* end : GetParam().ends) EXPECT_TRUE(reached.contains(end) && reached.at(end) > 0) << end;
 }
 

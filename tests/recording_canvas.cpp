@@ -47,6 +47,11 @@ void RecordingCanvas::tell(const char* what, const Parts&... parts) {
   told_ += '\n';
 }
 
+const std::string& RecordingCanvas::told() const {
+  EXPECT_EQ(indent_, "") << "something is still clipped";
+  return told_;
+}
+
 std::unique_ptr<Canvas> RecordingCanvas::make(Size size) {
   auto made = std::make_unique<RecordingCanvas>();
   made->indent_ = indent_ + "  ";

@@ -13,7 +13,7 @@ namespace tombolario {
 class RecordingCanvas : public Canvas {
  public:
   /// All so far; what is copied is told in full where it is copied first.
-  const std::string& told() const { return told_; }
+  const std::string& told() const;
   /// The words that are drawn.
   const std::vector<std::string>& texts() const { return texts_; }
 

@@ -21,9 +21,9 @@ inline void PrintTo(const PictureId& picture, std::ostream* out) { *out << pictu
 class TemporaryDirectory {
  public:
   TemporaryDirectory() {
-    const auto* test = testing::UnitTest::GetInstance()->current_test_info();
+    static int made = 0;
     path_ = std::filesystem::temp_directory_path() /
-            ("tombolario-" + std::to_string(getpid()) + '-' + test->test_suite_name() + '-' + test->name());
+            ("tombolario-" + std::to_string(getpid()) + '-' + std::to_string(++made));
     std::filesystem::remove_all(path_);
     std::filesystem::create_directories(path_);
   }

@@ -10,6 +10,7 @@
 namespace tombolario {
 
 /// A surface of that size at that scale, to draw on and to look at.
+template <class Kind = CairoCanvas>
 class Sheet {
  public:
   Sheet(Size size, double scale)
@@ -41,7 +42,7 @@ class Sheet {
   }
 
   CairoFonts fonts_;
-  CairoCanvas canvas_;
+  Kind canvas_;
   PictureCache pictures_;
 
  public:

@@ -60,7 +60,7 @@ void Form::mouseLost() {
 
 void Form::letGo() {
   held_ = 0;
-  captured_ = armed_ = nullptr;
+  armed_ = nullptr;
   updateSunken();
 }
 
@@ -68,7 +68,6 @@ void Form::mouseUp(MouseButton button) {
   if ((held_ & bit(button)) == 0) return;
   held_ &= ~bit(button);
   Control* control = captured_;
-  if (held_ == 0) captured_ = nullptr;
   const bool clicked = button == MouseButton::Left && armed_ != nullptr && underMouse() == armed_;
   if (button == MouseButton::Left) {
     armed_ = nullptr;

@@ -39,7 +39,7 @@ int ScrollBar::thumbLength() const {
 
 int ScrollBar::thumbStart() const {
   const int room = trackLength() - thumbLength();
-  return arrowLength() + (range() == 0 ? 0 : static_cast<int>(1LL * room * (Value - Min) / range()));
+  return arrowLength() + static_cast<int>(1LL * room * (Value - Min) / range());
 }
 
 void ScrollBar::changed() {

@@ -37,7 +37,7 @@ class ScrollBar : public Control {
   int arrowLength() const;
   int trackLength() const { return length() - 2 * arrowLength(); }
   int thumbLength() const;
-  int thumbStart() const;
+  int thumbStart() const;  // where there is a range
   int range() const { return Max > Min ? Max - Min : 0; }
 
   Direction direction_;
