@@ -3,12 +3,14 @@
 #include <sys/inotify.h>
 #include <sys/resource.h>
 #include <sys/stat.h>
+#include <sys/syscall.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
 #include <array>
 #include <csignal>
 #include <cstring>
+#include <functional>
 #include <random>
 
 #include "sanitized.hpp"
@@ -18,6 +20,7 @@
 namespace {
 
 int synced = 0;
+std::function<void()> afterWriting;
 
 }  // namespace
 
@@ -25,6 +28,13 @@ int synced = 0;
 extern "C" int fdatasync(int /*file*/) {
   ++synced;
   return 0;
+}
+
+/// In the place of the library's, with a look at what lies on the disk then.
+extern "C" ssize_t pwrite(int file, const void* bytes, std::size_t count, off_t place) {
+  const ssize_t written = syscall(SYS_pwrite64, file, bytes, count, place);
+  if (afterWriting) afterWriting();
+  return written;
 }
 
 namespace tombolario {
@@ -215,6 +225,31 @@ TEST_F(RecordFileTest, AKilledProgramLeavesTheOldNumbersOrTheNewOnes) {
     ASSERT_EQ(other, -number) << "half of a save";
   }
   EXPECT_GT(changed, kKills / 2);
+}
+
+TEST_F(RecordFileTest, AProgramThatEndsBetweenTwoWritesLeavesTheOldNumbersOrTheNewOnes) {
+  for (std::size_t length = 0; length <= 81; ++length) {
+    writeFile(path, std::string(length, '\1'));
+    const auto before = stored();
+    int writes = 0;
+    afterWriting = [&] {
+      ++writes;
+      EXPECT_TRUE(stored() == before || stored() == std::pair(97, 5)) << length;
+    };
+    EXPECT_TRUE(store(97, 5));
+    afterWriting = nullptr;
+    EXPECT_EQ(writes, length < 80 ? 2 : 1) << length;
+  }
+}
+
+TEST_F(RecordFileTest, WhatIsNoFileOrCannotBeReadIsLeftAlone) {
+  for (const char* other : {"/dev/zero", "/proc/self/mem"}) {
+    std::filesystem::create_symlink(other, path);
+    Numbers2 numbers = numbersOf(7, 7);
+    EXPECT_FALSE(files.read("CATENA.dat", numbers.items)) << other;
+    EXPECT_FALSE(store(1, 2)) << other;
+    std::filesystem::remove(path);
+  }
 }
 
 }  // namespace
