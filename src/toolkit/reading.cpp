@@ -29,13 +29,6 @@ Box common(const Box& a, const Box& b) {
 /// Relative to the inside of its parent.
 Box boxOf(const Control& control) { return {control.Left, control.Top, control.Width, control.Height}; }
 
-bool liesIn(const Control& control, const Control* outer) {
-  for (const Control* at = &control; at != nullptr; at = at->parent()) {
-    if (at == outer) return true;
-  }
-  return false;
-}
-
 /// In one line, without blanks around it.
 std::string oneLine(const std::string& text) {
   std::string line;
@@ -149,9 +142,7 @@ class Reader {
       const Point at = child->origin();
       const Box seen = common({at.x, at.y, child->Width, child->Height}, clip);
       if (seen.width <= 0 || seen.height <= 0) continue;
-      std::erase_if(readings_, [&](const Reading& below) {
-        return encloses(seen, below.box) && !liesIn(*child, below.control);
-      });
+      std::erase_if(readings_, [&](const Reading& below) { return encloses(seen, below.box); });
       add(*child, seen);
       read(*child, seen);
     }
