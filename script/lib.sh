@@ -9,6 +9,8 @@ virtual_display_packages=(xvfb xdotool maim)
 page_packages=(emscripten node-acorn cmake ninja-build python3 python3-fonttools python3-brotli)
 browser_packages=(chromium chromium-driver python3-selenium firefox-esr)
 
+trap 'echo; exit 130' INT # Else an interrupted command counts as one that has failed.
+
 say() { printf '%s: %s\n' "$program" "$*"; }
 
 die() {
@@ -20,7 +22,7 @@ die() {
 follow() {
   local log=$1
   shift
-  if [[ -t 1 ]]; then
+  if [[ -t 1 && ${TERM-dumb} != dumb ]]; then
     "$@" 2>&1 </dev/null | tee -- "$log" | show_last_line
   else
     "$@" >"$log" 2>&1 </dev/null
@@ -80,17 +82,17 @@ install_missing() {
   mkdir -p "$scratch/lists/partial"
   obstacle="the lists of packages cannot be fetched"
   quietly "${apt[@]}" -o APT::Status-Fd=1 update || return
-  obstacle="these packages cannot be had: ${missing[*]}"
+  obstacle="no server that apt knows has these packages, or none answers: ${missing[*]}"
   "${apt[@]}" -o Debug::NoLocking=1 --print-uris "${install[@]}" >"$scratch/plan" 2>&1 || {
-    grep '^E:' "$scratch/plan" >&2
+    grep '^[EW]:' "$scratch/plan" >&2
     return 1
   }
   say "$(awk '/ newly installed/ {n = $3} /^Need to get/ {fetch = $4 " " $5; sub("/.*", "", fetch)}
-    /^After this/ {disk = $4 " " $5} END {print n " packages, " fetch " to fetch, " disk " on the disk"}' "$scratch/plan")"
+    /^After this/ {disk = $4 " " $5} END {print n (n == 1 ? " package, " : " packages, ") fetch " to fetch, " disk " on the disk"}' "$scratch/plan")"
 
   if ((EUID != 0)); then
     obstacle="that takes an administrator, who can run:"$'\n\n'"  $by_hand"$'\n'
-    command -v sudo >/dev/null && sudo -v || return
+    command -v sudo >/dev/null && { sudo -n true 2>/dev/null || sudo -v; } || return
     as_root=(sudo)
   fi
   obstacle="could not install what is missing: ${missing[*]}"
@@ -116,7 +118,7 @@ build_page() { build "$1"; }
 
 # What another user has built, CMake could not change.
 [[ -w $root ]] || die "$root belongs to $(stat -c %U -- "$root"): nothing can be built there"
-for directory in "$root"/build*; do
+for directory in "$root"/build "$root"/build-*; do
   [[ ! -e $directory || -O $directory ]] ||
-    die "$directory belongs to $(stat -c %U -- "$directory"): run this as that user, or remove it as root: rm -r $directory"
+    die "$directory belongs to $(stat -c '%U (%u)' -- "$directory"): run this as that user, or remove it as root: rm -r ${directory@Q}"
 done
