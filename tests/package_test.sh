@@ -6,6 +6,7 @@ die() {
   printf 'package_test: %s\n' "$*" >&2
   exit 1
 }
+scratch=$(mktemp -d)
 . "$(dirname -- "${BASH_SOURCE[0]}")/../script/virtual-display.sh"
 
 # A prefix that only the installation knows.
@@ -51,7 +52,9 @@ load_saved_game() {
   must "the saved game" shows ffff80 "${change_cards[@]}"
 }
 
-[[ -s $(sed -n 's/^Exec=xdg-open "\(.*\)"$/\1/p' "$prefix/share/applications/tombolario.desktop") ]] || die "no guide to open"
+for text in applications/tombolario.desktop doc-base/tombolario man/{,it/}man6/tombolario.6.gz; do
+  zgrep -qF "$prefix/share/doc/tombolario/guida.html" "$prefix/share/$text" || die "$text does not lead to the guide"
+done
 
 open_screen
 open_installed
