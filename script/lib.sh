@@ -9,6 +9,9 @@ virtual_display_packages=(xvfb xdotool maim)
 page_packages=(emscripten node-acorn cmake ninja-build python3 python3-fonttools python3-brotli)
 browser_packages=(chromium chromium-driver python3-selenium firefox-esr)
 
+# A script's own files, which go when it ends.
+scratch=$(mktemp -d)
+trap 'rm -rf -- "$scratch"' EXIT
 trap 'echo; exit 130' INT # Else an interrupted command counts as one that has failed.
 
 say() { printf '%s: %s\n' "$program" "$*"; }
@@ -43,11 +46,9 @@ show_last_line() {
 
 # Runs a command whose output matters only if it fails.
 quietly() {
-  local log status=0
-  log=$(mktemp)
+  local log=$scratch/log status=0
   follow "$log" "$@" || status=$?
   ((status == 0)) || cat "$log" >&2
-  rm -f "$log"
   return "$status"
 }
 
@@ -56,15 +57,14 @@ is_installed() { dpkg-query -W -f '${db:Status-Status}\n' "$1" 2>/dev/null | gre
 # Installs those of the packages that are missing, and leaves apt alone if none is. Where that fails, tells
 # why in `obstacle`.
 try_to_install() {
-  local package missing=() scratch status=0
+  local package missing=() fetched=$scratch/fetched status=0
   for package; do is_installed "$package" || missing+=("$package"); done
   ((${#missing[@]})) || return 0
 
   obstacle="no apt-get here to install what is missing: ${missing[*]}"
   command -v apt-get >/dev/null || return
-  scratch=$(mktemp -d)
   install_missing || status=$?
-  rm -rf -- "$scratch"
+  rm -rf -- "$fetched"
   return "$status"
 }
 
@@ -73,22 +73,22 @@ try_to_install() {
 install_missing() {
   local by_hand="apt-get update && apt-get install --no-install-recommends ${missing[*]}"
   local install=(install --no-install-recommends "${missing[@]}") as_root=() waiting=
-  local apt=(env LC_ALL=C DEBIAN_FRONTEND=noninteractive apt-get -q -y -o "Dir::State::Lists=$scratch/lists"
+  local apt=(env LC_ALL=C DEBIAN_FRONTEND=noninteractive apt-get -q -y -o "Dir::State::Lists=$fetched/lists"
     -o Dir::Cache::pkgcache= -o Dir::Cache::srcpkgcache= -o Acquire::Languages=none
     -o APT::Keep-Downloaded-Packages=false)
 
   say "to install: ${missing[*]}"
   chmod 755 "$scratch" # for apt, which fetches as a user of its own
-  mkdir -p "$scratch/lists/partial"
+  mkdir -p "$fetched/lists/partial"
   obstacle="the lists of packages cannot be fetched"
   quietly "${apt[@]}" -o APT::Status-Fd=1 update || return
   obstacle="no server that apt knows has these packages, or none answers: ${missing[*]}"
-  "${apt[@]}" -o Debug::NoLocking=1 --print-uris "${install[@]}" >"$scratch/plan" 2>&1 || {
-    grep '^[EW]:' "$scratch/plan" >&2
+  "${apt[@]}" -o Debug::NoLocking=1 --print-uris "${install[@]}" >"$fetched/plan" 2>&1 || {
+    grep '^[EW]:' "$fetched/plan" >&2
     return 1
   }
   say "$(awk '/ newly installed/ {n = $3} /^Need to get/ {fetch = $4 " " $5; sub("/.*", "", fetch)}
-    /^After this/ {disk = $4 " " $5} END {print n (n == 1 ? " package, " : " packages, ") fetch " to fetch, " disk " on the disk"}' "$scratch/plan")"
+    /^After this/ {disk = $4 " " $5} END {print n (n == 1 ? " package, " : " packages, ") fetch " to fetch, " disk " on the disk"}' "$fetched/plan")"
 
   if ((EUID != 0)); then
     obstacle="that takes an administrator, who can run:"$'\n\n'"  $by_hand"$'\n'
@@ -96,9 +96,9 @@ install_missing() {
     as_root=(sudo)
   fi
   obstacle="could not install what is missing: ${missing[*]}"
-  until follow "$scratch/log" "${as_root[@]}" "${apt[@]}" -o APT::Status-Fd=1 "${install[@]}"; do
-    if ! grep -q 'Could not get lock' "$scratch/log"; then
-      grep -v '^[dp][lm]status:' "$scratch/log" >&2
+  until follow "$fetched/log" "${as_root[@]}" "${apt[@]}" -o APT::Status-Fd=1 "${install[@]}"; do
+    if ! grep -qE 'Could not get lock .*(is held by|temporarily unavailable)' "$fetched/log"; then
+      grep -v '^[dp][lm]status:' "$fetched/log" >&2
       return 1
     fi
     [[ $waiting ]] || say "another program is installing packages: waiting for it"

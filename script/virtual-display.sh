@@ -1,5 +1,5 @@
 # The room in a real window on a screen that nobody sees, played through real mouse events. For sourcing,
-# by a script that defines die() and has `set -euo pipefail`.
+# by a script that defines die(), has `set -euo pipefail` and a directory `scratch`, which goes when the script ends.
 #
 # Places in the room are in twips, as in the sources, wherever the window shows them.
 
@@ -10,7 +10,6 @@ scale=1    # of the window
 margin_x=0 # pixels left of the room in the window
 room_pid=
 screen_pid=
-scratch=$(mktemp -d)
 
 close_screen() {
   [[ -z $room_pid ]] || kill -KILL "$room_pid" 2>/dev/null || true

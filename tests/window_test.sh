@@ -7,6 +7,7 @@ die() {
   printf 'window_test: %s\n' "$*" >&2
   exit 1
 }
+scratch=$(mktemp -d)
 . "$(dirname -- "${BASH_SOURCE[0]}")/../script/virtual-display.sh"
 
 program=$(realpath -- "$1")
