@@ -6,6 +6,7 @@
 
 #include "null_canvas.hpp"
 #include "toolkit/controls.hpp"
+#include "toolkit/scroll_bar.hpp"
 #include "toolkit/view.hpp"
 
 namespace tombolario {
@@ -96,6 +97,8 @@ TEST_F(FormTest, OnlyAChangeAsksForDrawing) {
   form.mouseMove(kOnGround);
   form.mouseDown(MouseButton::Left);
   EXPECT_FALSE(drawn()) << "the ground looks the same";
+  view.fit(800, 600);
+  EXPECT_TRUE(drawn()) << "the window has another size";
 }
 
 TEST_F(FormTest, TheCursorIsThatOfTheControlThatHasTheMouse) {
@@ -117,6 +120,28 @@ TEST_F(FormTest, TheCursorIsThatOfTheControlThatHasTheMouse) {
   EXPECT_TRUE(form.cursor());
   ground.Enabled = false;
   EXPECT_FALSE(form.cursor()) << "what lies on it is out of use, too";
+}
+
+TEST_F(FormTest, ACursorIsToldOnceForEachSizeOfTheWindow) {
+  View view(form);
+  EXPECT_TRUE(view.newCursor());
+  EXPECT_FALSE(view.newCursor());
+  view.fit(800, 600);
+  EXPECT_TRUE(view.newCursor());
+}
+
+TEST_F(FormTest, AScrollBarTellsOfAnotherValueOnly) {
+  ScrollBar bar{ground, "bar", {1000, 0, 255, 900}, ScrollBar::Direction::Vertical, ""};
+  std::string log;
+  bar.onChange = [&] { log += std::to_string(bar.Value) + ' '; };
+  bar.Max = 9;
+  bar.Value = 5;
+  bar.Value = 5;
+  bar.Enabled = false;
+  bar.Max = 7;
+  bar.Max = 3;
+  bar.Value = -1;
+  EXPECT_EQ(log, "5 3 0 ");
 }
 
 TEST_F(FormTest, TwoControlsOfOneNameStopTheStart) {

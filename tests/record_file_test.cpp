@@ -126,7 +126,10 @@ class OrdinaryUser {
 
 TEST_F(RecordFileTest, WithoutTheRightToReadOrToWriteNothingIsHarmed) {
   using std::filesystem::perms;
+  const mode_t mask = umask(027);
   ASSERT_TRUE(store(99, 1));
+  umask(mask);
+  EXPECT_EQ(std::filesystem::status(path).permissions(), perms{0640});
   constexpr auto kRead = perms::owner_read | perms::group_read | perms::others_read;
   constexpr auto kEnter = perms::owner_exec | perms::group_exec | perms::others_exec;
   std::filesystem::permissions(path, kRead);

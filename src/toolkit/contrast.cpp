@@ -46,7 +46,7 @@ Rgb quiet(Rgb ink, Rgb ground) {
   const double wanted = loud ? std::clamp(0.85 * loudness, kLeast, kMost) : kMost;
   const Rgb outermost = contrast(kBlack, ground) > contrast(kWhite, ground) ? kBlack : kWhite;
   Rgb found = ink;
-  for (int step = 0; step <= kSteps; ++step) {
+  for (int step = 1; step <= kSteps; ++step) {
     const Rgb next = mixed(ink, loud ? ground : outermost, 1.0 * step / kSteps);
     const bool legible = contrast(next, ground) >= wanted;
     if (loud && !legible) break;
