@@ -149,11 +149,11 @@ export function openReading(stage, status) {
     point(element, 0.5, 0);
   }
 
-  // The arrows of a bar are as long as it is thick, or a third of it.
-  function scroll(bar, up) {
+  // Its arrows are as long as a bar is thick, or a third of it.
+  function scroll(bar, steps) {
     const {width, height} = bar.reading;
     const arrow = Math.min(Math.min(width, height) / Math.max(width, height), 1 / 3) / 2;
-    press(bar, up ? 1 - arrow : arrow);
+    for (let n = Math.abs(steps); n > 0; --n) press(bar, steps > 0 ? 1 - arrow : arrow);
   }
 
   function choose(option, step) {
@@ -168,10 +168,11 @@ export function openReading(stage, status) {
     const role = element.reading?.role;
     if (!mouse || !OPERATED.includes(role) || event.ctrlKey || event.altKey || event.metaKey) return;
     const step = {ArrowDown: 1, ArrowRight: 1, ArrowUp: -1, ArrowLeft: -1}[event.key];
+    const end = {Home: 'aria-valuemin', End: 'aria-valuemax'}[event.key];
     if (step && role === 'radio') {
       choose(element, step);
-    } else if (step && role === 'scrollbar') {
-      scroll(element, step > 0);
+    } else if ((step || end) && role === 'scrollbar') {
+      scroll(element, step ?? element.getAttribute(end) - element.getAttribute('aria-valuenow'));
     } else if (['Enter', ' '].includes(event.key) && role !== 'scrollbar') {
       if (!event.repeat && !held) {
         held = element;

@@ -17,7 +17,8 @@ import serve  # noqa: E402
 
 PATIENCE = 10  # seconds
 BUTTONS = {'left': 0, 'middle': 1, 'right': 2, 'back': 3, 'forward': 4}
-KEYS = {'Tab': '\ue004', 'Enter': '\ue007', ' ': ' ', 'ArrowUp': '\ue013', 'ArrowDown': '\ue015'}
+KEYS = {'Tab': '\ue004', 'Enter': '\ue007', ' ': ' ', 'ArrowUp': '\ue013', 'ArrowDown': '\ue015',
+        'Home': '\ue011', 'End': '\ue010'}
 
 
 class Site:
