@@ -28,6 +28,16 @@ TEST(Painter, TextGrowsWithTheScaleAlone) {
   }
 }
 
+TEST(Painter, WhatIsFilledIsSeenHoweverSmallTheWindow) {
+  for (int top = 0; top < 10; ++top) {
+    Sheet canvas({40, 40}, 0.3);
+    canvas.painter.fillRect({5, top + 0.0, 20, 2}, kRed);
+    int red = 0;
+    for (int y = 0; y < canvas.height(); ++y) red += canvas.pixel(4, y) == kRed;
+    EXPECT_EQ(red, 1) << top;
+  }
+}
+
 TEST(Painter, APictureLooksAsDrawnDirectly) {
   for (const double scale : kScales) {
     const PictureId joker(pictures::Picture1, 52);
