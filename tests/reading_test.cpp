@@ -11,16 +11,29 @@
 namespace tombolario {
 namespace {
 
-/// All that is heard of a window, a line each: where it is, what it is, its name, and what a press says of
-/// it.
+/// Of what can be used.
+std::string stateOf(const Reading& reading) {
+  const Control& control = *reading.control;
+  const bool used = reading.role >= Role::Button;
+  std::string state = used && !control.operable() ? " off" : "";
+  if (reading.role == Role::Option && control.Value == 1) state += " chosen";
+  if (reading.role == Role::Bar) {
+    for (const int number : {control.Value.get(), control.Min.get(), control.Max.get()})
+      state += ' ' + std::to_string(number);
+  }
+  return state;
+}
+
+/// All that is heard of a window, a line each: where it is, what it is and how, its name, and what a press
+/// says of it.
 std::string heard(const Form& form) {
   constexpr std::array kRoles{"ground", "group", "text", "picture", "button", "tile", "option", "bar"};
   std::string lines;
   for (const Reading& reading : readingOf(form)) {
     const Box& box = reading.box;
     for (const int number : {box.left, box.top, box.width, box.height}) lines += std::to_string(number) + ' ';
-    lines += kRoles.at(static_cast<std::size_t>(reading.role)) + std::string(" \"") + reading.name + "\" \"" +
-             reading.news + '"';
+    lines += kRoles.at(static_cast<std::size_t>(reading.role)) + stateOf(reading) + " \"" + reading.name +
+             "\" \"" + reading.news + '"';
     if (reading.control->MousePointer == kCustomPointer)
       lines += ' ' + reading.control->MouseIcon.get().name();
     if (reading.group != nullptr) lines += " of " + reading.group->name().text();

@@ -177,9 +177,9 @@ class Chromium(Viewer, webdriver.Chrome):
         self.execute('actions', {'actions': sources})
 
     def tree(self):
-        """What a screen reader is given: role, name and value of all that is in the accessibility tree."""
+        """What a screen reader is given: role and name of all that is in the accessibility tree."""
         nodes = self.execute_cdp_cmd('Accessibility.getFullAXTree', {})['nodes']
-        return [tuple(node.get(part, {}).get('value') for part in ('role', 'name', 'value'))
+        return [tuple(node.get(part, {}).get('value') for part in ('role', 'name'))
                 for node in nodes if not node['ignored']]
 
     def complaints(self):
