@@ -60,7 +60,7 @@ TEST(Reading, IsWhatIsRecordedOfEveryScreen) {
                               "click MENUVP",
                               "click commpr(3)",
                               "click giocodom",
-                              "click LEF(1)",
+                              "click LEF(2)",
                               "click Commdomban",
                               "click FINEDOM",
                               "click MENUDOM",

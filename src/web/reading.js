@@ -137,7 +137,6 @@ export function openReading(stage, status) {
   }
 
   function press(element, share = 0.5) {
-    point(element, share, 0);
     point(element, share, 1);
     point(element, share, 0);
   }
@@ -176,7 +175,6 @@ export function openReading(stage, status) {
     } else if (['Enter', ' '].includes(event.key) && role !== 'scrollbar') {
       if (!event.repeat && !held) {
         held = element;
-        point(element, 0.5, 0);
         point(element, 0.5, 1);
       }
     } else {

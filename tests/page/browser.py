@@ -176,6 +176,17 @@ class Chromium(Viewer, webdriver.Chrome):
     def perform(self, sources):
         self.execute('actions', {'actions': sources})
 
+    def elements(self):
+        """All that is told, in its order: its place in the window, its state and its name."""
+        return self.execute_script('''
+            return [...document.querySelectorAll('main *')].map((element) => {
+              const {x, y, width, height} = element.getBoundingClientRect();
+              const {ariaDisabled, ariaChecked, ariaValueNow, ariaValueMin, ariaValueMax} = element;
+              const state = (ariaDisabled === 'true' ? ' off' : '') + (ariaChecked === 'true' ? ' chosen' : '') +
+                (ariaValueNow ? ` ${ariaValueNow} ${ariaValueMin} ${ariaValueMax}` : '');
+              return [[x, y, width, height], state, element.ariaLabel ?? element.textContent];
+            });''')
+
     def tree(self):
         """What a screen reader is given: role and name of all that is in the accessibility tree."""
         nodes = self.execute_cdp_cmd('Accessibility.getFullAXTree', {})['nodes']

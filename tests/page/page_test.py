@@ -6,6 +6,7 @@ SCRIPTED_PAGE takes the driver's commands as well, so that what its controls hol
 those of the driver hold, control by control."""
 
 import base64
+import collections
 import hashlib
 import itertools
 import pathlib
@@ -28,7 +29,8 @@ SCREENS = {'Frameprincipale', 'Frame2', 'Frame2BIS', 'Frame3', 'Frame3BIS', 'FRA
 # What is heard of every screen: its commands, and after each a line for each thing. And its roles, as a browser
 # calls them.
 RECORDED = pathlib.Path(__file__).parents[1] / 'recorded/reading.txt'
-HEARD = re.compile(r'(\d+) (\d+) (\d+) (\d+) (\w+)(.*?) "(.*?)" "')
+Thing = collections.namedtuple('Thing', 'x y width height role state name news')
+THING = re.compile(r'(\d+) (\d+) (\d+) (\d+) (\w+)(.*?) "(.*?)" "(.*?)"')
 ROLES = {'group': 'radiogroup', 'text': 'StaticText', 'picture': 'image', 'button': 'button', 'tile': 'button',
          'option': 'radio', 'bar': 'scrollbar'}
 # Of each game, in the order of the menu: the button that starts it. Then what leads back to the menu.
@@ -258,12 +260,12 @@ class ScriptedPage(unittest.TestCase):
                     if device == 'keyboard':
                         self.browser.draw()
                         self.browser.walk_to(name)
-                        self.browser.key('Enter')
+                        self.press_key(control, 'button', 0)
                     else:
                         act = self.browser.press if device == 'mouse' else self.browser.tap
                         act(*self.browser.where(control))
-                    self.native.answer('click ' + control)
-                    self.compare(f'{control} by {device} at {width}x{height}')
+                        self.native.answer('click ' + control)
+                        self.compare(f'{control} by {device} at {width}x{height}')
 
     def test_hands_in_firefox_and_again_without_a_network(self):
         self.start(Firefox())
@@ -310,7 +312,8 @@ class ScriptedPage(unittest.TestCase):
             'const {key, role} = document.activeElement.reading ?? {}; return [key, role]')
 
     def press_key(self, control, role, step):
-        """Presses what has the focus, and does the same in the driver."""
+        """Presses what has the focus, does the same in the driver, and looks where the focus has gone."""
+        screen = self.native.answer('screen')
         if role == 'button':
             self.browser.key(' ' if step % 2 else 'Enter')
             self.native.answer('click ' + control)
@@ -326,6 +329,13 @@ class ScriptedPage(unittest.TestCase):
             self.native.answer(f'scroll {control} {to}')
         self.browser.draw()
         self.compare(f'step {step}: {role} {control}')
+        there, usable, ground = self.browser.execute_script('''
+            const {activeElement} = document;
+            return [activeElement.reading?.key, activeElement.tabIndex === 0, activeElement.matches('main')];''')
+        if screen == self.native.answer('screen'):
+            self.assertTrue(usable or there == control, 'what is gone leaves the focus beside it')
+        else:
+            self.assertTrue(ground, 'another screen is heard from its beginning')
 
     def test_every_screen_is_heard_as_recorded(self):
         browser = Chromium()
@@ -334,25 +344,26 @@ class ScriptedPage(unittest.TestCase):
         left, top, scale = browser.room()
         self.assertEqual(scale, 1)
         parts = re.split(r'^== \d+ (.*)\n', RECORDED.read_text(), flags=re.M)[1:]
+        screen, before = '', {}
         for command, lines in zip(parts[::2], parts[1::2]):
             if command != 'start':
                 self.assertEqual(browser.answer(command), 'ok')
+            browser.execute_script('dispatchEvent(new Event("pointerdown"))')  # which makes it tell what is new
             browser.draw()
-            heard = [HEARD.match(line).groups() for line in lines.splitlines()]
-            self.assertEqual(
-                browser.execute_script("""
-                    return [...document.querySelectorAll('main *')].map((element) => {
-                      const {x, y, width, height} = element.getBoundingClientRect();
-                      const {ariaDisabled, ariaChecked, ariaValueNow, ariaValueMin, ariaValueMax} = element;
-                      const state = (ariaDisabled === 'true' ? ' off' : '') + (ariaChecked === 'true' ? ' chosen' : '') +
-                        (ariaValueNow ? ` ${ariaValueNow} ${ariaValueMin} ${ariaValueMax}` : '');
-                      return [x, y, width, height, state, element.ariaLabel ?? element.textContent];
-                    });"""),
-                [[int(x) // 15 + left, int(y) // 15 + top, int(width) // 15, int(height) // 15, state, name]
-                 for x, y, width, height, _, state, name in heard], command)
-            beside = ('StaticText', '?')  # of the link to the guide
+            things = [Thing(*THING.match(line).groups()) for line in lines.splitlines()]
+            places = [[int(twips) // 15 + edge for twips, edge in zip(thing[:4], (left, top, 0, 0))] for thing in things]
+            self.assertEqual(browser.elements(), [[place, thing.state, thing.name]
+                                                  for place, thing in zip(places, things)], command)
+            news = {thing[:4]: thing.news for thing in things if thing.news}
+            if screen == (screen := browser.answer('screen')):
+                changed = [text for place, text in news.items() if before.get(place) != text]
+                self.assertEqual(browser.news(), '. '.join(dict.fromkeys(changed)), command)
+            elif command != 'start':
+                self.assertEqual(browser.news(), browser.execute_script('return document.querySelector("main").ariaLabel'))
+            before = news
+            beside = [('StaticText', text) for text in ('?', browser.news()) if text]  # the guide's link, what is new
             self.assertEqual(sorted(node for node in browser.tree() if node[0] in ROLES.values()),
-                             sorted([beside, *((ROLES[role], name) for *_, role, _, name in heard)]), command)
+                             sorted([*beside, *((ROLES[thing.role], thing.name) for thing in things)]), command)
 
     def test_every_game_by_the_keyboard(self):
         self.start(Chromium())
