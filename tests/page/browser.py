@@ -128,9 +128,9 @@ class Viewer:
                                                       for part in range(10, reach + 1, 5)), up()]
                      for way, begin in ((-10, [down(), to(x, y - 10), pause(600), pause()]), (10, [*[pause()] * 3, down()]))])
 
-    def key(self, key):
-        self.perform([{'type': 'key', 'id': 'keys', 'actions': [{'type': kind, 'value': KEYS[key]}
-                                                                for kind in ('keyDown', 'keyUp')]}])
+    def key(self, key, *parts):
+        self.perform([{'type': 'key', 'id': 'keys', 'actions': [{'type': part, 'value': KEYS[key]}
+                                                                for part in parts or ('keyDown', 'keyUp')]}])
 
     def walk_to(self, name):
         """By the tabulator to what is called so, or begins so."""

@@ -396,7 +396,7 @@ class ScriptedPage(unittest.TestCase):
             for exit_button in EXITS:
                 do('click ' + exit_button)
 
-    def test_the_other_buttons_and_a_press_that_is_dragged_away(self):
+    def test_the_other_buttons_and_a_press_that_is_taken_away(self):
         self.start(Chromium())
         for game, button, back in (('commpr(3)', 'right', 'MENUDOM'), ('commpr(6)', 'middle', 'Command17'),
                                    ('commpr(4)', 'back', 'menucat'), ('commpr(1)', 'forward', 'menupok')):
@@ -407,6 +407,14 @@ class ScriptedPage(unittest.TestCase):
         self.both('click commpr(2)')
         self.browser.mouse(to(*self.browser.where('Command8')), down(), to(20, 20), up())
         self.assertEqual(self.browser.answer('screen'), 'Frame3')
+        self.browser.draw()
+        self.browser.walk_to('NUOVA PARTITA')
+        self.browser.key('Enter', 'keyDown')
+        self.browser.execute_script('dispatchEvent(new Event("blur"))')
+        self.browser.key(' ', 'keyDown')
+        self.assertEqual(self.browser.answer('screen'), 'Frame3', 'a button waits for the release')
+        self.browser.key(' ', 'keyUp')
+        self.assertEqual(self.browser.answer('screen'), 'Frame3BIS')
 
     def test_two_fingers_enlarge_and_press_nothing(self):
         self.start(Chromium())
