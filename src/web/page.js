@@ -58,7 +58,6 @@ function play(room, reading) {
   const touch = openTouch({
     press: point,
     takeBack() {
-      if (holder === null) return;
       end();
       drawSoon();
     },

@@ -39,7 +39,6 @@ export function openTouch(room) {
   }
 
   function down(event) {
-    event.target.setPointerCapture(event.pointerId);
     if (event.isPrimary) {
       fingers.clear();
       two = false;

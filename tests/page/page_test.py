@@ -50,6 +50,29 @@ SPY = '''
     };'''
 
 
+# What is at the place of a touch; what fingers 1 and 2 do (come down, move, lift, are cancelled, at a place on one
+# line, after so many milliseconds), or that half a second goes by; what the room is told.
+TOUCHES = (
+    ('acts at once', '1down100 1up100', 'down up'),
+    ('acts at once', '1down100 1move112 1up112', 'down up'),
+    ('acts at once', '1down100 1move113 1up113', ''),
+    ('acts at once', '1down100 wait 1up100', 'waited down up'),
+    ('can be taken back', '1down100 wait 1move103 1up103', 'down waited move up'),
+    ('can be taken back', '1down100 1move112 1move113 1move114 1up115', 'down move move up'),
+    ('can be taken back', '1move100 1down100 1cancel100 1move130 wait', 'waited'),
+    ('acts at once', '1down100 2down200 1move80 1up80 2move300 wait 2up300', 'enlarge 1.2 150,7>140,7 waited'),
+    ('acts at once', '1down100 2down200 1up100 1down100 1up100', 'down up'),
+    ('acts at once', '1down100 2down100 2move90 2move110', 'enlarge 10 100,7>95,7 enlarge 1 95,7>105,7'),
+    ('can be taken back', '1down100 2cancel200 wait 2down200 1up100 2up200 1down100 1up100', 'down waited back down up'),
+    ('nothing', '1down100 1up100 1down123+298 1up123 wait', 'down up enlarge 0 123,7>123,7 waited'),
+    ('nothing', '1down100 1up100 1down100 1up100 1down100 1up100', 'down up enlarge 0 100,7>100,7 down up'),
+    ('nothing', '1down100 1up100 1down100 1up100+299', 'down up down up'),
+    ('nothing', '1down100 1up100 1down124 1up124', 'down up down up'),
+    ('acts at once', '1down100 1up100 1down100 1up100', 'down up down up'),
+    ('nothing, not enlarged', '1down100 1up100 1down100 1up100', 'down up down up'),
+)
+
+
 class Native:
     """The driver as a program, with data files of its own."""
 
@@ -405,8 +428,17 @@ class ScriptedPage(unittest.TestCase):
             self.compare(f'{game} by the {button} button')
             self.both('click ' + back)
         self.both('click commpr(2)')
-        self.browser.mouse(to(*self.browser.where('Command8')), down(), to(20, 20), up())
+        x, y = self.browser.where('Command8')
+        self.browser.mouse(to(x, y), down(), to(20, 20), up())
         self.assertEqual(self.browser.answer('screen'), 'Frame3')
+        for event in 'pointermove', 'pointercancel':  # the first after a release that nobody told
+            self.browser.mouse(to(x, y), down())
+            self.browser.execute_script('''
+                const [type, clientX, clientY] = arguments;
+                document.querySelector('canvas').dispatchEvent(
+                  new PointerEvent(type, {pointerId: 1, isPrimary: true, clientX, clientY}));''', event, x, y)
+            self.browser.mouse(up())
+            self.assertEqual(self.browser.answer('screen'), 'Frame3', event)
         self.browser.draw()
         self.browser.walk_to('NUOVA PARTITA')
         self.browser.key('Enter', 'keyDown')
@@ -415,6 +447,38 @@ class ScriptedPage(unittest.TestCase):
         self.assertEqual(self.browser.answer('screen'), 'Frame3', 'a button waits for the release')
         self.browser.key(' ', 'keyUp')
         self.assertEqual(self.browser.answer('screen'), 'Frame3BIS')
+
+    def test_what_a_touch_tells_the_room(self):
+        browser = Chromium()
+        self.addCleanup(browser.quit)
+        browser.open(self.site)
+        told = browser.execute_script('''
+            const {openTouch} = await import(new URL('touch.js', document.querySelector('script').src));
+            return Promise.all(arguments[0].map(async ([at, steps]) => {
+              const told = [];
+              const touch = openTouch({
+                press: ({type}) => told.push(type.slice(7)),
+                takeBack: () => told.push('back'),
+                enlarge: (times, from, to) => told.push(`enlarge ${times} ${from.x},${from.y}>${to.x},${to.y}`),
+                enlarged: () => at !== 'nothing, not enlarged',
+                pressAt: () => at.split(',')[0],
+              });
+              let timeStamp = 0;
+              for (const step of steps.split(' ')) {
+                const [, finger, type, x, later] = step.match(/(\\d)?([a-z]+)(\\d+)?[+]?(\\d+)?/);
+                if (finger) {
+                  timeStamp += Number(later ?? 1);
+                  touch({type: `pointer${type}`, pointerId: finger, isPrimary: finger === '1', timeStamp,
+                         clientX: Number(x), clientY: 7});
+                } else {
+                  await new Promise((done) => setTimeout(done, 510));
+                  told.push('waited');
+                }
+              }
+              return told.join(' ');
+            }));''', TOUCHES)
+        self.assertEqual(told, [expected for *_, expected in TOUCHES])
+        self.assertEqual(browser.complaints(), [])
 
     def test_two_fingers_enlarge_and_press_nothing(self):
         self.start(Chromium())
