@@ -176,6 +176,25 @@ class Chromium(Viewer, webdriver.Chrome):
     def perform(self, sources):
         self.execute('actions', {'actions': sources})
 
+    def difference(self, picture, left, top):
+        """Between a picture of the room and the canvas there: in levels of a colour, where both are shrunk to a
+        sixteenth and differ most."""
+        return self.execute_script('''
+            const [data, left, top] = arguments;
+            const bytes = Uint8Array.from(atob(data), (byte) => byte.charCodeAt(0));
+            const picture = await createImageBitmap(new Blob([bytes]));
+            const shrunk = (image, left, top) => {
+              for (const part of [1, 2, 4, 8, 16]) {
+                const context = new OffscreenCanvas(784 / part, 560 / part).getContext('2d');
+                if (part === 1) context.drawImage(image, -left, -top);
+                else context.drawImage(image, 0, 0, 784 / part, 560 / part);
+                image = context.canvas;
+              }
+              return image.getContext('2d').getImageData(0, 0, 49, 35).data;
+            };
+            const page = shrunk(document.querySelector('canvas'), left, top);
+            return Math.max(...shrunk(picture, 0, 0).map((level, i) => Math.abs(level - page[i])));''', picture, left, top)
+
     def elements(self):
         """All that is told, in its order: its place in the window, its state and its name."""
         return self.execute_script('''
