@@ -231,7 +231,8 @@ class ShippedPage(unittest.TestCase):
 
     def test_a_new_version_is_fetched_behind_and_opens_next_whole_or_not_at_all(self):
         self.browser.keep()
-        self.browser.execute_script('return caches.open("of another page")')
+        for name in '"of another page"', '`tombolario ${location} of old`', '`tombolario ${location} later`':
+            self.browser.execute_script(f'return caches.open({name})')
         self.site.directory, self.site.refused, self.site.asked = SCRIPTED, 'tombolario.wasm', []
         self.assertFalse(self.opens_the_new())
         end = time.monotonic() + PATIENCE
