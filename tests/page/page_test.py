@@ -396,7 +396,7 @@ class ScriptedPage(unittest.TestCase):
 
     def test_every_game_by_the_keyboard(self):
         self.start(Chromium())
-        chance, told = random.Random(3), set()
+        chance, told, roles = random.Random(3), set(), set()
         self.keys = itertools.cycle(['End', 'ArrowUp', 'Home', 'ArrowDown'])
         for game, entry in enumerate(ENTRIES, start=1):
             self.both(f'click commpr({game})')
@@ -416,8 +416,10 @@ class ScriptedPage(unittest.TestCase):
                 if control is not None and control not in EXITS:
                     self.press_key(control, role, step)
                     told.add(self.browser.news())
+                    roles.add(role)
             self.leave(lambda line: self.both(line))
         self.assertGreater(len(told), 50, 'what a press changes is told')
+        self.assertEqual(roles, {'button', 'radio', 'scrollbar'})
 
     def leave(self, do):
         """For the main menu."""
