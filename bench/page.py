@@ -9,7 +9,7 @@ import time
 
 ROOT = pathlib.Path(__file__).resolve().parent.parent
 sys.path.insert(0, str(ROOT / 'tests' / 'page'))
-from browser import Browser, Site  # noqa: E402
+from browser import Chromium, Site  # noqa: E402
 
 STARTS = 10
 REPAINTS = 100
@@ -18,7 +18,7 @@ PAGE, SCRIPTED = (pathlib.Path(argument).resolve() for argument in sys.argv[1:])
 
 def first_menu(page):
     """Milliseconds from the request to the menu on the screen, in a browser that has never seen the page."""
-    browser = Browser()
+    browser = Chromium()
     try:
         browser.get('about:blank')
         time.sleep(1)  # until the browser's own start is over
@@ -31,7 +31,7 @@ def first_menu(page):
 
 def repaint(page, way, density):
     """Milliseconds for the whole window, until its pixels can be read."""
-    browser = Browser(density)
+    browser = Chromium(density)
     try:
         browser.open(page)
         for name in way:

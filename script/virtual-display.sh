@@ -12,8 +12,11 @@ room_pid=
 screen_pid=
 
 close_screen() {
-  [[ -z $room_pid ]] || kill -KILL "$room_pid" 2>/dev/null || true
-  [[ -z $screen_pid ]] || kill "$screen_pid" 2>/dev/null || true
+  local pid
+  for pid in $(jobs -p); do
+    # The screen tidies up; what is shown on it may not end by itself once it is gone.
+    if [[ $pid == "$screen_pid" ]]; then kill "$pid"; else kill -KILL "$pid"; fi 2>/dev/null || true
+  done
   wait 2>/dev/null
   rm -rf -- "$scratch"
 }

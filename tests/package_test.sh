@@ -54,6 +54,7 @@ load_saved_game() {
 
 for text in applications/tombolario.desktop doc-base/tombolario man/{,it/}man6/tombolario.6.gz; do
   zgrep -qF "$prefix/share/doc/tombolario/guida.html" "$prefix/share/$text" || die "$text does not lead to the guide"
+  [[ $text != man/* ]] || zgrep -qF "$prefix/bin/tombolario" "$prefix/share/$text" || die "$text does not lead to the room"
 done
 
 open_screen

@@ -74,7 +74,7 @@ class Viewer:
     def open(self, site, file=''):
         self.execute_script('performance.clearMarks()')
         self.get(site.address + file)
-        self.wait("return performance.getEntriesByName('room').length")
+        self.wait("return performance.getEntriesByName('room').length && document.querySelector('main').style.transform")
 
     def wait(self, script):
         end = time.monotonic() + PATIENCE
