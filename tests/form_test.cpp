@@ -142,6 +142,11 @@ TEST_F(FormTest, AScrollBarTellsOfAnotherValueOnly) {
   bar.Max = 3;
   bar.Value = -1;
   EXPECT_EQ(log, "5 3 0 ");
+  bar.Enabled = true;
+  form.mouseMove(bar.origin() + Point{100, 255});
+  form.mouseDown(MouseButton::Left);
+  form.mouseMove(bar.origin() + Point{100, 800});
+  EXPECT_EQ(log, "5 3 0 3 ") << "the thumb begins where the arrow ends";
 }
 
 TEST_F(FormTest, TwoControlsOfOneNameStopTheStart) {
