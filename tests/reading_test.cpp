@@ -18,6 +18,7 @@ std::string stateOf(const Reading& reading) {
   std::string state = used && !control.operable() ? " off" : "";
   if (reading.role == Role::Option && control.Value == 1) state += " chosen";
   if (reading.role == Role::Bar) {
+    state += control.Width > control.Height ? " horizontal" : " vertical";
     for (const int number : {control.Value.get(), control.Min.get(), control.Max.get()})
       state += ' ' + std::to_string(number);
   }
@@ -28,7 +29,7 @@ std::string stateOf(const Reading& reading) {
 /// says of it.
 std::string heard(const Form& form) {
   constexpr std::array kRoles{"ground", "group", "text", "picture", "button", "tile", "option", "bar"};
-  std::string lines;
+  std::string lines = std::string("screen \"") + form.inSight().about() + "\"\n";
   for (const Reading& reading : readingOf(form)) {
     const Box& box = reading.box;
     for (const int number : {box.left, box.top, box.width, box.height}) lines += std::to_string(number) + ' ';

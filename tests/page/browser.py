@@ -18,7 +18,7 @@ import serve  # noqa: E402
 PATIENCE = 10  # seconds
 BUTTONS = {'left': 0, 'middle': 1, 'right': 2, 'back': 3, 'forward': 4}
 KEYS = {'Tab': '\ue004', 'Enter': '\ue007', ' ': ' ', 'ArrowUp': '\ue013', 'ArrowDown': '\ue015',
-        'Home': '\ue011', 'End': '\ue010'}
+        'ArrowLeft': '\ue012', 'ArrowRight': '\ue014', 'Home': '\ue011', 'End': '\ue010'}
 
 
 class Site:
@@ -200,9 +200,9 @@ class Chromium(Viewer, webdriver.Chrome):
         return self.execute_script('''
             return [...document.querySelectorAll('main *')].map((element) => {
               const {x, y, width, height} = element.getBoundingClientRect();
-              const {ariaDisabled, ariaChecked, ariaValueNow, ariaValueMin, ariaValueMax} = element;
+              const {ariaDisabled, ariaChecked, ariaOrientation, ariaValueNow, ariaValueMin, ariaValueMax} = element;
               const state = (ariaDisabled === 'true' ? ' off' : '') + (ariaChecked === 'true' ? ' chosen' : '') +
-                (ariaValueNow ? ` ${ariaValueNow} ${ariaValueMin} ${ariaValueMax}` : '');
+                (ariaOrientation ? ` ${ariaOrientation} ${ariaValueNow} ${ariaValueMin} ${ariaValueMax}` : '');
               return [[x, y, width, height], state, element.ariaLabel ?? element.textContent];
             });''')
 

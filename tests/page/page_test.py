@@ -50,7 +50,7 @@ SPY = '''
     };'''
 
 
-# What is at the place of a touch; what fingers 1 and 2 do (come down, move, lift, are cancelled, at a place on one
+# What is at the places of touches below 500; what fingers 1 and 2 do (come down, move, lift, are cancelled, at a place on one
 # line, after so many milliseconds), or that half a second goes by; what the room is told.
 TOUCHES = (
     ('acts at once', '1down100 1up100', 'down up'),
@@ -69,6 +69,7 @@ TOUCHES = (
     ('nothing', '1down100 1up100 1down100 1up100+299', 'down up down up'),
     ('nothing', '1down100 1up100 1down124 1up124', 'down up down up'),
     ('acts at once', '1down100 1up100 1down100 1up100', 'down up down up'),
+    ('nothing', '1down100 1up100 1down500 1up500 1down100 1up100', 'down up down up down up'),
     ('nothing, not enlarged', '1down100 1up100 1down100 1up100', 'down up down up'),
 )
 
@@ -170,7 +171,7 @@ class ShippedPage(unittest.TestCase):
         self.assertEqual(self.browser.execute_script('return typeof room'), 'undefined')
         self.browser.execute_script(SPY + """
             window.opened = [];
-            HTMLAnchorElement.prototype.click = function () { opened.push(`${this.href} ${this.target}`); };""")
+            HTMLAnchorElement.prototype.click = function () { opened.push(`${this.href} ${this.target} ${this.rel}`); };""")
         style = 'return document.querySelector("canvas").style.cursor'
         self.browser.mouse(to(*self.GROUND), to(self.GROUND[0] + 5, self.GROUND[1]))
         self.assertEqual(self.browser.pixel(*self.GROUND), 'ffc0c0')
@@ -178,7 +179,7 @@ class ShippedPage(unittest.TestCase):
         for link in self.EMAIL, self.SITE:
             self.browser.press(*link)
         self.assertEqual(self.browser.execute_script('return opened'),
-                         ['mailto:info@tombolario.example ', 'https://www.tombolario.example/ _blank'])
+                         ['mailto:info@tombolario.example  noopener', 'https://www.tombolario.example/ _blank noopener'])
         image = r'image-set\(url\("data:image/png;base64,[^"]+"\) 1x\)'
         self.assertRegex(self.browser.execute_script(style), f'^{image} 12 1, pointer$', 'with its hot spot')
         self.browser.mouse(to(*self.GROUND))
@@ -284,7 +285,7 @@ class ScriptedPage(unittest.TestCase):
                     if device == 'keyboard':
                         self.browser.draw()
                         self.browser.walk_to(name)
-                        self.press_key(control, 'button', 0)
+                        self.press_key(control, 'button', list(steps).index(control))
                     else:
                         act = self.browser.press if device == 'mouse' else self.browser.tap
                         act(*self.browser.where(control))
@@ -306,6 +307,8 @@ class ScriptedPage(unittest.TestCase):
 
     def test_a_game_is_stored_or_refused_or_damaged(self):
         self.start(Chromium())
+        (pathlib.Path(self.native.data.name) / 'videopoker.dat').write_bytes(b'\1\0 and more')
+        self.browser.execute_script(f"localStorage['tombolario/videopoker.dat'] = btoa('\1\0 and more')")
         for name in ['commpr(2)', 'Command8', 'Command2(1)', 'Command2(3)', *['Command3', 'Command1'] * 9, 'Command7']:
             self.both('click ' + name)
         self.compare_files()
@@ -335,31 +338,44 @@ class ScriptedPage(unittest.TestCase):
         return self.browser.execute_script(
             'const {key, role} = document.activeElement.reading ?? {}; return [key, role]')
 
+    def stops(self):
+        """Of the tabulator and of what is out of use, in their order: their controls, and whether it stops there."""
+        return self.browser.execute_script('''
+            return [...document.querySelectorAll('main [tabindex]')].map(({reading, tabIndex}) => [reading.key, !tabIndex]);''')
+
     def press_key(self, control, role, step):
         """Presses what has the focus, does the same in the driver, and looks where the focus has gone."""
-        screen = self.native.answer('screen')
+        screen, stops = self.native.answer('screen'), [key for key, _ in self.stops()]
+        at = stops.index(control)
         if role == 'button':
-            self.browser.key(' ' if step % 2 else 'Enter')
+            if step % 3:
+                self.browser.key(' ' if step % 2 else 'Enter')
+            else:
+                self.browser.execute_script('document.activeElement.click()')  # as screen readers do
             self.native.answer('click ' + control)
         elif role == 'radio':
+            self.assertEqual(self.native.answer(f'get {control} Value'), '1', 'the tabulator comes to what is chosen')
             self.browser.key('ArrowDown' if step % 2 else 'ArrowUp')
-            self.assertNotEqual(self.focused(), [control, role])
-            self.native.answer(f'click {self.focused()[0]}')
+            fellow, _ = self.focused()
+            self.assertNotEqual(fellow, control)
+            control = fellow
+            self.native.answer('click ' + control)
         else:
             value, least, most = (int(self.native.answer(f'get {control} {name}')) for name in ('Value', 'Min', 'Max'))
             key = next(self.keys)
             self.browser.key(key)
-            to = {'End': most, 'ArrowUp': value - 1, 'Home': least, 'ArrowDown': value + 1}[key]
+            to = {'End': most, 'Home': least, 'ArrowLeft': value - 1, 'ArrowUp': value - 1,
+                  'ArrowRight': value + 1, 'ArrowDown': value + 1}[key]
             self.native.answer(f'scroll {control} {to}')
         self.browser.draw()
         self.compare(f'step {step}: {role} {control}')
-        there, usable, ground = self.browser.execute_script('''
-            const {activeElement} = document;
-            return [activeElement.reading?.key, activeElement.tabIndex === 0, activeElement.matches('main')];''')
-        if screen == self.native.answer('screen'):
-            self.assertTrue(usable or there == control, 'what is gone leaves the focus beside it')
+        if screen != self.native.answer('screen'):
+            self.assertTrue(self.browser.execute_script('return document.activeElement.matches("main")'),
+                            'another screen is heard from its beginning')
         else:
-            self.assertTrue(ground, 'another screen is heard from its beginning')
+            usable = dict(self.stops())
+            beside = (key for key in [*stops[at + 1:], *reversed(stops[:at])] if usable.get(key))
+            self.assertEqual(self.focused()[0], control if control in usable else next(beside))
 
     def test_every_screen_is_heard_as_recorded_and_looks_as_in_the_window(self):
         browser = Chromium()
@@ -379,7 +395,10 @@ class ScriptedPage(unittest.TestCase):
             self.native.answer(f'shot {picture}')
             difference = browser.difference(base64.b64encode(picture.read_bytes()).decode(), left, top)
             self.assertLess(difference, 30, command)  # Letters are drawn by somebody else.
-            things = [Thing(*THING.match(line).groups()) for line in lines.splitlines()]
+            head, *lines = lines.splitlines()
+            about = head.split('"')[1]
+            self.assertEqual(browser.execute_script('return document.querySelector("main").ariaLabel'), about)
+            things = [Thing(*THING.match(line).groups()) for line in lines]
             places = [[int(twips) // 15 + edge for twips, edge in zip(thing[:4], (left, top, 0, 0))] for thing in things]
             self.assertEqual(browser.elements(), [[place, thing.state, thing.name]
                                                   for place, thing in zip(places, things)], command)
@@ -388,16 +407,23 @@ class ScriptedPage(unittest.TestCase):
                 changed = [text for place, text in news.items() if before.get(place) != text]
                 self.assertEqual(browser.news(), '. '.join(dict.fromkeys(changed)), command)
             elif command != 'start':
-                self.assertEqual(browser.news(), browser.execute_script('return document.querySelector("main").ariaLabel'))
+                self.assertEqual(browser.news(), about)
             before = news
             beside = [('StaticText', text) for text in ('?', browser.news()) if text]  # the guide's link, what is new
             self.assertEqual(sorted(node for node in browser.tree() if node[0] in ROLES.values()),
                              sorted([*beside, *((ROLES[thing.role], thing.name) for thing in things)]), command)
+        self.assertLessEqual({('status', ''), ('link', 'Come si gioca')}, set(browser.tree()))
+        self.assertEqual(browser.execute_script('return document.documentElement.lang'), 'it')
+        told = browser.news()
+        time.sleep(1.1)
+        browser.answer(command)
+        browser.draw()
+        self.assertEqual(browser.news(), told, 'what nobody has pressed changes unheard')
 
     def test_every_game_by_the_keyboard(self):
         self.start(Chromium())
         chance, told, roles = random.Random(3), set(), set()
-        self.keys = itertools.cycle(['End', 'ArrowUp', 'Home', 'ArrowDown'])
+        self.keys = itertools.cycle(['End', 'ArrowLeft', 'Home', 'ArrowRight', 'ArrowUp', 'ArrowDown'])
         for game, entry in enumerate(ENTRIES, start=1):
             self.both(f'click commpr({game})')
             self.browser.draw()
@@ -439,16 +465,27 @@ class ScriptedPage(unittest.TestCase):
         x, y = self.browser.where('Command8')
         self.browser.mouse(to(x, y), down(), to(20, 20), up())
         self.assertEqual(self.browser.answer('screen'), 'Frame3')
-        for event in 'pointermove', 'pointercancel':  # the first after a release that nobody told
+        # A release that nobody told, a press that is taken away, another pointer.
+        for event, pointer, screen in (('pointermove', 1, 'Frame3'), ('pointercancel', 1, 'Frame3'),
+                                       ('pointermove', 2, 'Frame3BIS')):
             self.browser.mouse(to(x, y), down())
             self.browser.execute_script('''
-                const [type, clientX, clientY] = arguments;
+                const [type, pointerId, clientX, clientY] = arguments;
                 document.querySelector('canvas').dispatchEvent(
-                  new PointerEvent(type, {pointerId: 1, isPrimary: true, clientX, clientY}));''', event, x, y)
+                  new PointerEvent(type, {pointerId, isPrimary: true, clientX, clientY}));''', event, pointer, x, y)
             self.browser.mouse(up())
-            self.assertEqual(self.browser.answer('screen'), 'Frame3', event)
+            self.assertEqual(self.browser.answer('screen'), screen, event)
+        self.browser.answer('click Command5')
+        self.assertFalse(self.browser.execute_script('''
+            return document.querySelector('canvas').dispatchEvent(new MouseEvent('contextmenu', {cancelable: true}));'''))
         self.browser.draw()
         self.browser.walk_to('NUOVA PARTITA')
+        for modifier in 'ctrlKey', 'altKey', 'metaKey':
+            self.browser.execute_script('''
+                for (const type of ['keydown', 'keyup']) {
+                  const event = new KeyboardEvent(type, {key: 'Enter', bubbles: true, [arguments[0]]: true});
+                  document.activeElement.dispatchEvent(event);
+                }''', modifier)
         self.browser.key('Enter', 'keyDown')
         self.browser.execute_script('dispatchEvent(new Event("blur"))')
         self.browser.key(' ', 'keyDown')
@@ -469,7 +506,7 @@ class ScriptedPage(unittest.TestCase):
                 takeBack: () => told.push('back'),
                 enlarge: (times, from, to) => told.push(`enlarge ${times} ${from.x},${from.y}>${to.x},${to.y}`),
                 enlarged: () => at !== 'nothing, not enlarged',
-                pressAt: () => at.split(',')[0],
+                pressAt: ({x}) => x < 500 ? at.split(',')[0] : 'acts at once',
               });
               let timeStamp = 0;
               for (const step of steps.split(' ')) {
@@ -520,6 +557,7 @@ class ScriptedPage(unittest.TestCase):
             self.assertEqual(self.browser.room(), fitting, 'the focus is in sight')
             self.assertEqual(self.browser.answer('click MENUVP'), 'ok')
             self.browser.draw()
+            self.browser.pinch(width / 2, height / 2, 90)  # which another size ends
 
     def test_a_long_random_session_of_all_games(self):
         lines, digests, screens = play_at_random(self.native)
