@@ -446,6 +446,13 @@ class ScriptedPage(unittest.TestCase):
             self.leave(lambda line: self.both(line))
         self.assertGreater(len(told), 50, 'what a press changes is told')
         self.assertEqual(roles, {'button', 'radio', 'scrollbar'})
+        for line in 'click commpr(3)', 'click giocodom', 'seed 63', 'click FINEDOM', 'click giocodom':
+            self.both(line)
+        self.browser.draw()
+        self.browser.execute_script('''
+            [...document.querySelectorAll('main *')].find(({reading}) => reading.key === 'LEF(3)').focus();''')
+        self.press_key('LEF(3)', 'button', 1)
+        self.assertEqual(self.native.answer('get LEF(3) Visible'), '0', 'what is pressed is gone')
 
     def leave(self, do):
         """For the main menu."""
