@@ -384,7 +384,7 @@ class ScriptedPage(unittest.TestCase):
         left, top, scale = browser.room()
         self.assertEqual(scale, 1)
         parts = re.split(r'^== \d+ (.*)\n', RECORDED.read_text(), flags=re.M)[1:]
-        screen, before = '', {}
+        screen, screens, before = '', set(), {}
         for command, lines in zip(parts[::2], parts[1::2]):
             if command != 'start':
                 self.assertEqual(browser.answer(command), 'ok')
@@ -408,10 +408,12 @@ class ScriptedPage(unittest.TestCase):
                 self.assertEqual(browser.news(), '. '.join(dict.fromkeys(changed)), command)
             elif command != 'start':
                 self.assertEqual(browser.news(), about)
+            screens.add(screen)
             before = news
             beside = [('StaticText', text) for text in ('?', browser.news()) if text]  # the guide's link, what is new
             self.assertEqual(sorted(node for node in browser.tree() if node[0] in ROLES.values()),
                              sorted([*beside, *((ROLES[thing.role], thing.name) for thing in things)]), command)
+        self.assertEqual(screens, SCREENS)
         self.assertLessEqual({('status', ''), ('link', 'Come si gioca')}, set(browser.tree()))
         self.assertEqual(browser.execute_script('return document.documentElement.lang'), 'it')
         told = browser.news()
