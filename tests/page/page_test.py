@@ -307,8 +307,8 @@ class ScriptedPage(unittest.TestCase):
 
     def test_a_game_is_stored_or_refused_or_damaged(self):
         self.start(Chromium())
-        (pathlib.Path(self.native.data.name) / 'videopoker.dat').write_bytes(b'\1\0 and more')
-        self.browser.execute_script("localStorage['tombolario/videopoker.dat'] = btoa('\1\0 and more')")
+        (pathlib.Path(self.native.data.name) / 'videopoker.dat').write_bytes(100 * b'more')
+        self.browser.execute_script("localStorage['tombolario/videopoker.dat'] = btoa('more'.repeat(100))")
         for name in ['commpr(2)', 'Command8', 'Command2(1)', 'Command2(3)', *['Command3', 'Command1'] * 9, 'Command7']:
             self.both('click ' + name)
         self.compare_files()
