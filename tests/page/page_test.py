@@ -50,8 +50,8 @@ SPY = '''
     };'''
 
 
-# What is at the places of touches below 500; what fingers 1 and 2 do (come down, move, lift, are cancelled, at a place on one
-# line, after so many milliseconds), or that half a second goes by; what the room is told.
+# What is at the places of touches below 500; what fingers 1 and 2 do (come down, move, lift, are cancelled, at a
+# place on one line, after so many milliseconds), or that half a second goes by; what the room is told.
 TOUCHES = (
     ('acts at once', '1down100 1up100', 'down up'),
     ('acts at once', '1down100 1move112 1up112', 'down up'),
@@ -389,8 +389,7 @@ class ScriptedPage(unittest.TestCase):
             if command != 'start':
                 self.assertEqual(browser.answer(command), 'ok')
                 self.native.answer(command)
-            browser.execute_script('dispatchEvent(new Event("pointerdown"))')  # which makes it tell what is new
-            browser.draw()
+            browser.execute_script('dispatchEvent(new Event("pointerdown")); room.draw();')  # a press tells what is new
             picture = pathlib.Path(self.native.data.name, 'picture.png')
             self.native.answer(f'shot {picture}')
             difference = browser.difference(base64.b64encode(picture.read_bytes()).decode(), left, top)
